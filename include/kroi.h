@@ -1,0 +1,333 @@
+/*
+ * kroi.h -- kroIP image-processing primitives, libkroit3.so.10 (x86-64, SSE3 tier "t3").
+ *
+ * This header is the reference manual of the image library.  It holds the shared types,
+ * the status codes and every exported function, family by family, each family with a
+ * short note on what it computes, how it rounds and which status codes it returns.
+ *
+ * Calling model
+ *   An image argument is a typed pointer to the first pixel of the region of interest
+ *   (ROI), a row step in bytes (distance between the starts of two rows; signed 32-bit,
+ *   signed 64-bit in the _L forms) and the ROI size, given once per call.  Channels are
+ *   interleaved (C3: three elements per pixel) unless the name says planar (P3, P4).
+ *   AC4 images have four channels of which the fourth (alpha) is neither read nor written.
+ *
+ *   Argument order: each source's pointer and step, the destination's pointer and step,
+ *   the ROI size, then the operation's parameters.  In-place (I) forms take the constant
+ *   or the second source first, then the source-destination pointer and step, the size.
+ *
+ *   Checks run in a fixed order per family, normally pointers (-8), size (-6), steps (-16)
+ *   where the family checks them, then the operation's parameters.  The first failing
+ *   check is returned and nothing is written.  Zero is success; a positive status is a
+ *   warning and the whole output was written.
+ *
+ *   Integer results with a scale factor (Sfs) are the exact result times 2^-scaleFactor,
+ *   rounded to nearest with ties to even, then saturated to the destination type.
+ *
+ *   _L forms take 64-bit steps and a KroiSizeL.  When every |step| and |width x height|
+ *   are below 0x7FFFFFFF they forward to the 32-bit function, which makes all its checks.
+ *   Otherwise a height below 1 returns 0 at once, and each row is processed in pieces of
+ *   at most 0x3FFFFFFF pixels by the operation's one-row kernel, which checks its own
+ *   pointers and length (a row always yields at least one piece, so a width below 1
+ *   reports -6); the first negative status ends the call, otherwise the last piece's
+ *   status is returned.  Rows finished before an error stay written.
+ *
+ *   Every function is stateless and may be called from any number of threads at once,
+ *   provided outputs and work buffers do not overlap.  Float-to-integer functions set the
+ *   SSE rounding control for the call and restore the caller's value before returning.
+ *
+ * The core services (allocation, cache size, processor features) are declared in krocore.h,
+ * which this header includes.
+ */
+#ifndef KROI_H
+#define KROI_H
+
+#include <stddef.h>
+#include <stdint.h>
+
+#include "krocore.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ---------------------------------------------------------------------------------------
+ * Pixel element types, named by the codes used in function names.
+ * ------------------------------------------------------------------------------------- */
+typedef uint8_t  Kro8u;
+typedef int8_t   Kro8s;
+typedef uint16_t Kro16u;
+typedef int16_t  Kro16s;
+typedef uint32_t Kro32u;
+typedef int32_t  Kro32s;
+typedef int64_t  Kro64s;
+typedef uint64_t Kro64u;
+typedef float    Kro32f;
+typedef double   Kro64f;
+typedef struct { Kro16s re, im; } Kro16sc;
+typedef struct { Kro32s re, im; } Kro32sc;
+typedef struct { Kro32f re, im; } Kro32fc;
+typedef struct { Kro64f re, im; } Kro64fc;
+
+/* ---------------------------------------------------------------------------------------
+ * Sizes and geometry.  KroiSize is passed by value (one 64-bit register: width low,
+ * height high); KroiSizeL is the 64-bit form taken by the _L functions.
+ * ------------------------------------------------------------------------------------- */
+typedef struct { int32_t width, height; } KroiSize;
+typedef struct { int64_t width, height; } KroiSizeL;
+typedef struct { int32_t x, y; } KroiPoint;
+typedef struct { int32_t x, y, width, height; } KroiRect;
+typedef struct { uint32_t borderLeft, borderTop, borderRight, borderBottom; } KroiBorderSize;
+
+/* ---------------------------------------------------------------------------------------
+ * Status codes.  0 success; negative: error, nothing was written to any output;
+ * positive: warning, the output was written.
+ * ------------------------------------------------------------------------------------- */
+/* KroStatus itself (a signed 32-bit integer) is declared in krocore.h. */
+enum {
+    kroStsOk                    =    0, /* success */
+    kroStsNothingDoneWarn       =    1, /* a size argument is zero: nothing to do, nothing written */
+    kroStsZeroDivisorWarn       =    2, /* a division met a zero divisor; all output written */
+    kroStsNegativeRootWarn      =    3, /* a square root met a negative argument */
+    kroStsNonPositiveLogWarn    =    7, /* a logarithm met a zero or negative argument */
+    kroStsQuadAdjustedWarn      =   28, /* quadrangle is no parallelogram: fourth vertex ignored */
+    kroStsRoiOutsideWarn        =   29, /* source region origin outside the image: nothing done */
+    kroStsNoOverlapWarn         =   30, /* mapped source misses the destination: nothing written */
+    kroStsNoAntialiasWarn       =   46, /* antialiasing requested where it does not apply */
+    kroStsTileClippedWarn       =   48, /* destination tile larger than the specification: clipped */
+
+    kroStsBadArgumentErr        =   -5, /* argument outside its allowed set */
+    kroStsBadSizeErr            =   -6, /* ROI width or height < 1, or another size out of range */
+    kroStsBadRangeErr           =   -7, /* lower bound not below the upper bound */
+    kroStsNullPointerErr        =   -8, /* a required pointer is null */
+    kroStsNoMemoryErr           =   -9, /* a temporary buffer could not be sized or obtained */
+    kroStsZeroDivisorErr        =  -10, /* an integer constant divisor is zero */
+    kroStsOutsideRangeErr       =  -11, /* position or bit count outside its allowed range */
+    kroStsEmptyScaleRangeErr    =  -12, /* float range maximum not greater than its minimum */
+    kroStsWrongTagErr           =  -13, /* specification or state of the wrong kind */
+    kroStsUnsupportedModeErr    =  -14, /* mode or parameter combination not supported */
+    kroStsBadStepErr            =  -16, /* row step < 1 (or too small where the family says so) */
+    kroStsTransformOrderErr     =  -17, /* transform order above 30 */
+    kroStsTransformFlagErr      =  -18, /* transform normalisation flag not 1, 2, 4 or 8 */
+    kroStsThresholdOrderErr     =  -19, /* lower threshold greater than the upper */
+    kroStsZeroMassErr           =  -21, /* zero-order moment too small */
+    kroStsBadFlipErr            =  -22, /* in-place mirror axis not allowed */
+    kroStsBadInterpolationErr   =  -23, /* interpolation code not allowed */
+    kroStsBadFactorErr          =  -24, /* volume resize factor not greater than 0 */
+    kroStsBadMaskErr            =  -33, /* mask or kernel size invalid */
+    kroStsBadAnchorErr          =  -34, /* anchor outside the mask */
+    kroStsNegativeToleranceErr  =  -36, /* comparison tolerance below 0 */
+    kroStsShortStepErr          =  -37, /* row step smaller than the bytes of one row */
+    kroStsBadChannelErr         =  -47, /* channel index or channel argument not supported */
+    kroStsZeroParameterErr      =  -49, /* a parameter the method needs non-zero is zero */
+    kroStsBadAlphaOpErr         =  -50, /* alpha composition operation above 11 */
+    kroStsZeroFilterDivisorErr  =  -51, /* filter divisor of zero */
+    kroStsBadChannelCountErr    =  -53, /* channel count not among the allowed */
+    kroStsSingularTransformErr  =  -56, /* transform coefficients are singular */
+    kroStsSmallRectErr          =  -57, /* rectangle narrower or lower than 2 pixels */
+    kroStsBadQuadErr            =  -58, /* quadrangle degenerate or not convex */
+    kroStsBadDataTypeErr        =  -59, /* data type code not supported */
+    kroStsBadChannelOrderErr    =  -60, /* channel order index outside 0..3 */
+    kroStsFewLutLevelsErr       = -106, /* lookup table with fewer than 2 levels */
+    kroStsFewHistLevelsErr      = -107, /* histogram with fewer than 2 levels */
+    kroStsOddStepErr            = -108, /* step that must be a multiple of the element size */
+    kroStsNegativeNoiseErr      = -125, /* noise power below 0 */
+    kroStsBadWeightErr          = -211, /* centre weight <= 0 */
+    kroStsBadFractionErr        = -212, /* decimation fraction not supported */
+    kroStsBadRoundModeErr       = -213, /* rounding mode not 0, 1 or 2 */
+    kroStsBadBorderErr          = -225, /* border type invalid */
+    kroStsOddPositionErr        = -227, /* offset or size that must be even is odd */
+    kroStsBadAlgorithmErr       = -228, /* algorithm code above 2 */
+    kroStsBadDirectionErr       = -231, /* warp direction not 0 or 1 */
+    kroStsSizeLimitErr          = -232, /* dimension above 0x1FFFFFF in a size query */
+    kroStsBadTransformKindErr   = -233  /* quadrangle warp transform kind not 0 or 1 */
+};
+
+/* ---------------------------------------------------------------------------------------
+ * Parameter codes shared by several families.
+ * ------------------------------------------------------------------------------------- */
+
+/* Data type codes taken by queries and initialisers; other values give -59 where checked. */
+typedef int32_t KroDataType;
+enum { kro8u = 1, kro16u = 5, kro16s = 7, kro32f = 13, kro64f = 19 };
+
+/* Rounding of float-to-integer results. */
+typedef int32_t KroRoundMode;
+enum {
+    kroRndZero     = 0, /* toward zero */
+    kroRndNear     = 1, /* to nearest, ties to even */
+    kroRndNearAway = 2  /* to nearest, ties away from zero */
+};
+
+/* Accuracy hint: 2 selects the accurate (wider-precision) kernel, any other value the fast one. */
+typedef int32_t KroAlgorithmHint;
+enum { kroHintNone = 0, kroHintFast = 1, kroHintAccurate = 2 };
+
+/* Interpolation codes. */
+enum {
+    kroInterNearest = 1,
+    kroInterLinear  = 2,
+    kroInterCubic   = 6,
+    kroInterSuper   = 8,
+    kroInterLanczos = 16
+};
+
+/* Comparison relations: src1 OP src2 (or src OP constant). */
+typedef int32_t KroCompareOp;
+enum {
+    kroCompareLess      = 0,
+    kroCompareLessEq    = 1,
+    kroCompareEq        = 2,
+    kroCompareGreaterEq = 3,
+    kroCompareGreater   = 4
+};
+
+/* Border code: the low nibble is the mode, the high nibble four in-memory flags.  A flag says
+ * that the pixels on that side of the ROI are real image memory and are read, not synthesised.
+ * Codes above 255 are invalid everywhere. */
+typedef uint32_t KroiBorderMode;
+enum {
+    kroBorderReplicate    = 1,    /* clamp to the nearest edge pixel */
+    kroBorderMirror       = 3,    /* reflect about the edge pixel, which is not repeated */
+    kroBorderReplicateAlt = 4,    /* geometric families only, as each defines it */
+    kroBorderConstant     = 6,    /* a caller-supplied value per channel */
+    kroBorderTransparent  = 7,    /* affine warp only: outside positions leave dst unwritten */
+    kroBorderInMemTop     = 0x10,
+    kroBorderInMemBottom  = 0x20,
+    kroBorderInMemLeft    = 0x40,
+    kroBorderInMemRight   = 0x80,
+    kroBorderInMem        = 0xF0  /* all four sides in memory; the mode is then ignored */
+};
+
+/* Alpha-composition operations, colours s1, s2 with alphas a1, a2 in [0, 1]. */
+typedef int32_t KroiAlphaOp;
+enum {
+    kroAlphaOver        = 0,  /* s1*a1 + s2*a2*(1-a1) */
+    kroAlphaIn          = 1,  /* s1*a1*a2 */
+    kroAlphaOut         = 2,  /* s1*a1*(1-a2) */
+    kroAlphaAtop        = 3,  /* s1*a1*a2 + s2*a2*(1-a1) */
+    kroAlphaXor         = 4,  /* s1*a1*(1-a2) + s2*a2*(1-a1) */
+    kroAlphaPlus        = 5,  /* s1*a1 + s2*a2 */
+    kroAlphaOverPremul  = 6,  /* s1 + s2*(1-a1); colours already multiplied by alpha */
+    kroAlphaInPremul    = 7,  /* s1*a2 */
+    kroAlphaOutPremul   = 8,  /* s1*(1-a2) */
+    kroAlphaAtopPremul  = 9,  /* s1*a2 + s2*(1-a1) */
+    kroAlphaXorPremul   = 10, /* s1*(1-a2) + s2*(1-a1) */
+    kroAlphaPlusPremul  = 11  /* s1 + s2 */
+};
+
+/* ---------------------------------------------------------------------------------------
+ * Version record.
+ * ------------------------------------------------------------------------------------- */
+typedef struct {
+    int32_t     major;        /* release year */
+    int32_t     minor;
+    int32_t     majorBuild;
+    int32_t     build;        /* build number, printed in hexadecimal inside Version */
+    char        targetCpu[4]; /* tier code "t3" and two zero bytes */
+    const char* Name;         /* "kroIP SSE3 (t3)" */
+    const char* Version;      /* "major.minor.majorBuild (r0x%08x)" */
+    const char* BuildDate;    /* "Mon D YYYY", e.g. "Nov 22 2026" */
+} KroLibraryVersion;
+
+/* kroiGetLibVersion: the library's constant version record.  Takes nothing, checks nothing,
+ * returns the same pointer on every call; the record and its strings live as long as the
+ * library and are never freed. */
+const KroLibraryVersion* kroiGetLibVersion(void);
+
+/* ---------------------------------------------------------------------------------------
+ * Image allocation.
+ *
+ * kroiMalloc_<type>_<layout>(width, height, pStep) returns a block for a width x height image
+ * whose every row starts on a 64-byte boundary, and stores the row step in *pStep; the block
+ * is released with kroiFree.  The step is the row's bytes rounded up to a multiple of 64.
+ *   - pStep null: null is returned and nothing is written.
+ *   - width or height below 1, or a row of more than 0x7FFFFFFF bytes: *pStep = 0, null.
+ *   - total bytes (step x height) above 0x7FFFFFFF, or no memory: null, with *pStep holding
+ *     the step.  A row of 0x7FFFFFC1..0x7FFFFFFF bytes rounds to a step of 0x80000000,
+ *     which is stored as the negative step -2147483648 beside a null result.
+ * The _L forms take 64-bit width, height and step and ask for up to 2^63-1 bytes:
+ *   - pStep null: null.  width or height below 1, or a row size that overflows 64 bits when
+ *     rounded to 64: *pStep = 0, null.
+ *   - step x height that overflows: null with the step stored.
+ * ------------------------------------------------------------------------------------- */
+Kro8u*   kroiMalloc_8u_C1(int widthPixels, int heightPixels, int* pStepBytes);
+Kro8u*   kroiMalloc_8u_C2(int widthPixels, int heightPixels, int* pStepBytes);
+Kro8u*   kroiMalloc_8u_C3(int widthPixels, int heightPixels, int* pStepBytes);
+Kro8u*   kroiMalloc_8u_C4(int widthPixels, int heightPixels, int* pStepBytes);
+Kro8u*   kroiMalloc_8u_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+Kro16u*  kroiMalloc_16u_C1(int widthPixels, int heightPixels, int* pStepBytes);
+Kro16u*  kroiMalloc_16u_C2(int widthPixels, int heightPixels, int* pStepBytes);
+Kro16u*  kroiMalloc_16u_C3(int widthPixels, int heightPixels, int* pStepBytes);
+Kro16u*  kroiMalloc_16u_C4(int widthPixels, int heightPixels, int* pStepBytes);
+Kro16u*  kroiMalloc_16u_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+Kro16s*  kroiMalloc_16s_C1(int widthPixels, int heightPixels, int* pStepBytes);
+Kro16s*  kroiMalloc_16s_C2(int widthPixels, int heightPixels, int* pStepBytes);
+Kro16s*  kroiMalloc_16s_C3(int widthPixels, int heightPixels, int* pStepBytes);
+Kro16s*  kroiMalloc_16s_C4(int widthPixels, int heightPixels, int* pStepBytes);
+Kro16s*  kroiMalloc_16s_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+Kro32s*  kroiMalloc_32s_C1(int widthPixels, int heightPixels, int* pStepBytes);
+Kro32s*  kroiMalloc_32s_C2(int widthPixels, int heightPixels, int* pStepBytes);
+Kro32s*  kroiMalloc_32s_C3(int widthPixels, int heightPixels, int* pStepBytes);
+Kro32s*  kroiMalloc_32s_C4(int widthPixels, int heightPixels, int* pStepBytes);
+Kro32s*  kroiMalloc_32s_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+Kro32f*  kroiMalloc_32f_C1(int widthPixels, int heightPixels, int* pStepBytes);
+Kro32f*  kroiMalloc_32f_C2(int widthPixels, int heightPixels, int* pStepBytes);
+Kro32f*  kroiMalloc_32f_C3(int widthPixels, int heightPixels, int* pStepBytes);
+Kro32f*  kroiMalloc_32f_C4(int widthPixels, int heightPixels, int* pStepBytes);
+Kro32f*  kroiMalloc_32f_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+Kro32sc* kroiMalloc_32sc_C1(int widthPixels, int heightPixels, int* pStepBytes);
+Kro32sc* kroiMalloc_32sc_C2(int widthPixels, int heightPixels, int* pStepBytes);
+Kro32sc* kroiMalloc_32sc_C3(int widthPixels, int heightPixels, int* pStepBytes);
+Kro32sc* kroiMalloc_32sc_C4(int widthPixels, int heightPixels, int* pStepBytes);
+Kro32sc* kroiMalloc_32sc_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+Kro32fc* kroiMalloc_32fc_C1(int widthPixels, int heightPixels, int* pStepBytes);
+Kro32fc* kroiMalloc_32fc_C2(int widthPixels, int heightPixels, int* pStepBytes);
+Kro32fc* kroiMalloc_32fc_C3(int widthPixels, int heightPixels, int* pStepBytes);
+Kro32fc* kroiMalloc_32fc_C4(int widthPixels, int heightPixels, int* pStepBytes);
+Kro32fc* kroiMalloc_32fc_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+
+Kro8u*   kroiMalloc_8u_C1_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro8u*   kroiMalloc_8u_C2_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro8u*   kroiMalloc_8u_C3_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro8u*   kroiMalloc_8u_C4_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro8u*   kroiMalloc_8u_AC4_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro16u*  kroiMalloc_16u_C1_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro16u*  kroiMalloc_16u_C2_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro16u*  kroiMalloc_16u_C3_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro16u*  kroiMalloc_16u_C4_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro16u*  kroiMalloc_16u_AC4_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro16s*  kroiMalloc_16s_C1_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro16s*  kroiMalloc_16s_C2_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro16s*  kroiMalloc_16s_C3_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro16s*  kroiMalloc_16s_C4_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro16s*  kroiMalloc_16s_AC4_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro32s*  kroiMalloc_32s_C1_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro32s*  kroiMalloc_32s_C2_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro32s*  kroiMalloc_32s_C3_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro32s*  kroiMalloc_32s_C4_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro32s*  kroiMalloc_32s_AC4_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro32f*  kroiMalloc_32f_C1_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro32f*  kroiMalloc_32f_C2_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro32f*  kroiMalloc_32f_C3_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro32f*  kroiMalloc_32f_C4_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro32f*  kroiMalloc_32f_AC4_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro32sc* kroiMalloc_32sc_C1_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro32sc* kroiMalloc_32sc_C2_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro32sc* kroiMalloc_32sc_C3_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro32sc* kroiMalloc_32sc_C4_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro32sc* kroiMalloc_32sc_AC4_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro32fc* kroiMalloc_32fc_C1_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro32fc* kroiMalloc_32fc_C2_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro32fc* kroiMalloc_32fc_C3_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro32fc* kroiMalloc_32fc_C4_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+Kro32fc* kroiMalloc_32fc_AC4_L(int64_t widthPixels, int64_t heightPixels, int64_t* pStepBytes);
+
+/* kroiFree: releases a block from any kroiMalloc form (null is accepted and ignored). */
+void kroiFree(void* ptr);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* KROI_H */
