@@ -61,14 +61,12 @@ KroStatus run(const int64_t (&steps)[N], KroiSizeL roi, Narrow&& narrow, Piece&&
     if (roi.height < 1) return kroStsOk;
     KroStatus status = kroStsOk;
     for (int64_t y = 0; y < roi.height; ++y) {
-        int64_t x = 0;
-        do {
+        for (int64_t x = 0;; x += Rule::kPiece) {
             const int64_t left = roi.width - x;
-            const int len = static_cast<int>(left < Rule::kPiece ? left : Rule::kPiece);
-            status = piece(y, x, len);
+            status = piece(y, x, static_cast<int>(left < Rule::kPiece ? left : Rule::kPiece));
             if (status < 0) return status;
-            x += Rule::kPiece;
-        } while (x < roi.width);
+            if (left <= Rule::kPiece) break;
+        }
     }
     return status;
 }

@@ -56,9 +56,8 @@ constexpr T scaleSaturate(int64_t r, int s)
 inline double roundHalfEven(double x)
 {
     const double f = std::floor(x), d = x - f;
-    if (d > 0.5) return f + 1.0;
-    if (d < 0.5) return f;
-    return std::fmod(f, 2.0) == 0.0 ? f : f + 1.0;
+    const double r = d > 0.5 ? f + 1.0 : d < 0.5 ? f : std::fmod(f, 2.0) == 0.0 ? f : f + 1.0;
+    return std::copysign(r, x); // -0.3 rounds to -0.0, as the processor's rounding does
 }
 inline double roundHalfAway(double x)
 {

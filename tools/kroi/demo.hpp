@@ -1,0 +1,102 @@
+// The demo registry: each entry runs library calls on the built-in sample and returns the
+// image they made.  `kroi demo` writes every result beside its input into a gallery and
+// times the calls.
+//
+// Adding an entry: write a function `Image name(DemoContext&)` (in demo_entries.cpp, or in a
+// demo_<family>.cpp of its own, declared here and listed in tools/CMakeLists.txt) and add
+// one line to the table in demo_entries.cpp.
+#pragma once
+
+#include <algorithm>
+#include <chrono>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include "png_io.hpp"
+
+namespace kroi_tool {
+
+// What an entry sees: the inputs, and a stopwatch for exactly the calls its call text shows.
+class DemoContext {
+public:
+    DemoContext(const Image& scene, const Image& second, int runs)
+        : scene_(scene), second_(second), runs_(runs)
+    {
+    }
+
+    // The sample scene: 8-bit RGB, 512 x 384.
+    const Image& first() const { return scene_; }
+    // A second input of the same size and type for calls that take two sources; asking for
+    // it puts it beside the result in the gallery.
+    const Image& second()
+    {
+        usedSecond_ = true;
+        return second_;
+    }
+
+    // Runs `call` once to warm caches and fault in the output's pages, then `runs` times
+    // under the clock, and keeps the median.  `call` returns a KroStatus or nothing; the
+    // status of the last run is returned, and a negative one throws, naming `what`.
+    template <class F>
+    KroStatus time(const char* what, F&& call)
+    {
+        std::vector<double> ms;
+        KroStatus status = once(call);
+        for (int i = 0; i < runs_; ++i) {
+            const auto t0 = std::chrono::steady_clock::now();
+            status = once(call);
+            const auto t1 = std::chrono::steady_clock::now();
+            ms.push_back(std::chrono::duration<double, std::milli>(t1 - t0).count());
+        }
+        std::nth_element(ms.begin(), ms.begin() + ms.size() / 2, ms.end());
+        medianMs_ = ms[ms.size() / 2];
+        if (status < 0) throw std::runtime_error(std::string(what) + " returned " + std::to_string(status));
+        return status;
+    }
+
+    // A line for the gallery about what the program did around the calls (copying pixels
+    // in, choosing values), so that no reader takes the program's work for the library's.
+    std::string note;
+
+    bool usedSecond() const { return usedSecond_; }
+    double medianMs() const { return medianMs_; } // negative until time() ran
+    int runs() const { return runs_; }
+
+private:
+    template <class F>
+    static KroStatus once(F& call)
+    {
+        if constexpr (std::is_void_v<decltype(call())>) {
+            call();
+            return kroStsOk;
+        } else {
+            return call();
+        }
+    }
+
+    const Image& scene_;
+    const Image& second_;
+    int runs_;
+    bool usedSecond_ = false;
+    double medianMs_ = -1.0;
+};
+
+using DemoRun = Image (*)(DemoContext&);
+
+struct DemoEntry {
+    const char* name; // file name of the result and row of the timing table
+    const char* call; // the C call text the gallery shows under the result
+    DemoRun run;
+};
+
+// The registry, in gallery order (demo_entries.cpp).
+std::span<const DemoEntry> demoEntries();
+
+// The built-in inputs (sample.cpp): deterministic, the same on every run.
+Image makeScene(int width, int height);  // 8-bit RGB scene
+Image makeSecond(int width, int height); // 8-bit RGB pattern, the second source
+
+} // namespace kroi_tool
