@@ -62,6 +62,15 @@ std::string fixed(double v, int decimals)
     return buf;
 }
 
+// A time per call in the unit that keeps three significant digits readable.
+std::string duration(double ms)
+{
+    if (ms < 0) return "-";
+    if (ms < 1e-3) return fixed(ms * 1e6, 1) + " ns";
+    if (ms < 1) return fixed(ms * 1e3, 2) + " us";
+    return fixed(ms, 3) + " ms";
+}
+
 // Megapixels per second of the result, or "-" when the entry was not timed or too fast to
 // measure.
 std::string mpps(const Result& r)
@@ -71,13 +80,13 @@ std::string mpps(const Result& r)
 
 void printTable(const std::vector<Result>& results, int runs)
 {
-    std::printf("%-24s %-10s %12s %12s   (median of %d runs)\n", "entry", "size", "ms/call", "MP/s", runs);
+    std::printf("%-24s %-10s %12s %12s   (median of %d runs)\n", "entry", "size", "time/call", "MP/s", runs);
     for (const Result& r : results) {
         if (!r.error.empty())
             std::printf("%-24s FAILED: %s\n", r.entry->name, r.error.c_str());
         else
             std::printf("%-24s %-10s %12s %12s\n", r.entry->name, r.size.c_str(),
-                        r.ms >= 0 ? fixed(r.ms, 6).c_str() : "-", mpps(r).c_str());
+                        duration(r.ms).c_str(), mpps(r).c_str());
     }
 }
 
@@ -129,7 +138,7 @@ void writeGallery(const fs::path& path, const std::vector<Result>& results, cons
         if (!r.error.empty())
             o << "<p class=\"error\">Failed: " << html(r.error) << "</p>\n";
         else if (r.ms >= 0)
-            o << "<p class=\"time\">" << fixed(r.ms, 6) << " ms per call, " << mpps(r) << " MP/s</p>\n";
+            o << "<p class=\"time\">" << duration(r.ms) << " per call, " << mpps(r) << " MP/s</p>\n";
         o << "</section>\n";
     }
     o << "</body></html>\n";
