@@ -77,7 +77,7 @@ typedef struct { int32_t width, height; } KroiSize;
 typedef struct { int64_t width, height; } KroiSizeL;
 typedef struct { int32_t x, y; } KroiPoint;
 typedef struct { int32_t x, y, width, height; } KroiRect;
-typedef struct { uint32_t borderLeft, borderTop, borderRight, borderBottom; } KroiBorderSize;
+typedef struct { uint32_t left, top, right, bottom; } KroiBorderSize;
 
 /* ---------------------------------------------------------------------------------------
  * Status codes.  0 success; negative: error, nothing was written to any output;
