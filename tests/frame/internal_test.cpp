@@ -14,6 +14,7 @@
 #include "frame/fpround.hpp"
 #include "frame/longform.hpp"
 #include "frame/round.hpp"
+#include "frame/rows.hpp"
 #include "support/compare.hpp"
 #include "support/random.hpp"
 #include "support/reference.hpp"
@@ -322,4 +323,26 @@ TEST(Check, Codes)
     EXPECT_EQ(tier::check::stepsCoverRow(30, -64), -37);
     for (int m : {0, 1, 2}) EXPECT_EQ(tier::check::roundMode(m), 0) << m;
     for (int m : {-1, 3, INT32_MIN}) EXPECT_EQ(tier::check::roundMode(m), -213) << m;
+}
+
+// Rows are visited in order at their own steps (negative ones too), and the status walk stops
+// at the first error.
+TEST(Rows, WalkAdvancesEachImageByItsOwnStep)
+{
+    std::vector<uint8_t> a(64), b(64);
+    using namespace KROI_TIER;
+    auto src = rows::image<const uint8_t>(a.data() + 48, -16);
+    auto dst = rows::image(b.data(), 8);
+    std::vector<std::pair<std::ptrdiff_t, std::ptrdiff_t>> seen;
+    rows::each(5, 3, [&](const uint8_t* s, uint8_t* d, int w) {
+        EXPECT_EQ(w, 5);
+        seen.emplace_back(s - a.data(), d - b.data());
+    }, src, dst);
+    EXPECT_EQ(seen, (std::vector<std::pair<std::ptrdiff_t, std::ptrdiff_t>>{{48, 0}, {32, 8}, {16, 16}}));
+    EXPECT_TRUE(rows::merged(8, dst));
+    EXPECT_FALSE(rows::merged(8, dst, rows::image(b.data(), 9)));
+    int calls = 0;
+    EXPECT_EQ(rows::eachStatus(1, 4, [&](uint8_t*, int) { return ++calls == 2 ? -8 : 1; }, dst), -8);
+    EXPECT_EQ(calls, 2);
+    EXPECT_EQ(rows::eachStatus(1, 2, [&](uint8_t*, int) { return 3; }, dst), 3);
 }

@@ -17,6 +17,24 @@ int runInfo(const Args& args);         // main.cpp
 int runDemo(const Args& args);         // demo.cpp
 int runPngRoundtrip(const Args& args); // roundtrip.cpp
 
+// The families' handlers, each in tools/kroi/<family>.cpp.
+// section COPYSET
+// end of section COPYSET
+// section ARITH
+// end of section ARITH
+// section ARITHC
+// end of section ARITHC
+// section CONVERT
+// end of section CONVERT
+// section LAYOUT
+// end of section LAYOUT
+// section COMPARE
+// end of section COMPARE
+// section BORDER
+// end of section BORDER
+// section MINMAX
+// end of section MINMAX
+
 // One line of library identification ("kroIP SSE3 (t3) 2026.0.0 (r0x00000001), Nov 2 2026").
 std::string libraryLine();
 

@@ -2,9 +2,9 @@
 // image they made.  `kroi demo` writes every result beside its input into a gallery and
 // times the calls.
 //
-// Adding an entry: write a function `Image name(DemoContext&)` (in demo_entries.cpp, or in a
-// demo_<family>.cpp of its own, declared here and listed in tools/CMakeLists.txt) and add
-// one line to the table in demo_entries.cpp.
+// Adding an entry: write a function `Image name(DemoContext&)` in the family's own
+// tools/kroi/demo_<family>.cpp, declare it in the family's block below, and add one line to
+// the family's block of the table in demo_entries.cpp.
 #pragma once
 
 #include <algorithm>
@@ -94,6 +94,24 @@ struct DemoEntry {
 
 // The registry, in gallery order (demo_entries.cpp).
 std::span<const DemoEntry> demoEntries();
+
+// The families' entry functions, each in tools/kroi/demo_<family>.cpp.
+// section COPYSET
+// end of section COPYSET
+// section ARITH
+// end of section ARITH
+// section ARITHC
+// end of section ARITHC
+// section CONVERT
+// end of section CONVERT
+// section LAYOUT
+// end of section LAYOUT
+// section COMPARE
+// end of section COMPARE
+// section BORDER
+// end of section BORDER
+// section MINMAX
+// end of section MINMAX
 
 // The built-in inputs (sample.cpp): deterministic, the same on every run.
 Image makeScene(int width, int height);  // 8-bit RGB scene

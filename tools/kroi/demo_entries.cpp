@@ -108,6 +108,22 @@ constexpr DemoEntry kEntries[] = {
     {"alloc-16u-c3", "p = kroiMalloc_16u_C3(512, 384, &step); kroiFree(p)", rgb16u},
     {"alloc-8u-c1", "p = kroiMalloc_8u_C1(512, 384, &step); kroiFree(p)", gray8u},
     {"alloc-16u-c2", "p = kroiMalloc_16u_C2(512, 384, &step); kroiFree(p)", grayAlpha16u},
+    // section COPYSET
+    // end of section COPYSET
+    // section ARITH
+    // end of section ARITH
+    // section ARITHC
+    // end of section ARITHC
+    // section CONVERT
+    // end of section CONVERT
+    // section LAYOUT
+    // end of section LAYOUT
+    // section COMPARE
+    // end of section COMPARE
+    // section BORDER
+    // end of section BORDER
+    // section MINMAX
+    // end of section MINMAX
 };
 
 } // namespace

@@ -30,6 +30,23 @@ constexpr Command kCommands[] = {
      "    run every demo entry on the built-in sample; write the input, the results and\n"
      "    index.html into DIR (default demo-out), print a timing table (median of N runs, default 15)",
      runDemo},
+    // The families' commands, one block each.
+    // section COPYSET
+    // end of section COPYSET
+    // section ARITH
+    // end of section ARITH
+    // section ARITHC
+    // end of section ARITHC
+    // section CONVERT
+    // end of section CONVERT
+    // section LAYOUT
+    // end of section LAYOUT
+    // section COMPARE
+    // end of section COMPARE
+    // section BORDER
+    // end of section BORDER
+    // section MINMAX
+    // end of section MINMAX
     {"png-roundtrip", nullptr, runPngRoundtrip},
 };
 
