@@ -52,6 +52,8 @@ std::string bare(const std::string& m)
 std::string functionName(std::string s)
 {
     if (auto c = s.find(" [clone"); c != std::string::npos) s.erase(c);
+    // The bracket of an unnamed namespace is part of the qualified name, not the parameters.
+    for (std::size_t a; (a = s.find("(anonymous namespace)")) != std::string::npos;) s.erase(a, 21);
     if (auto dot = s.find('.'); dot != std::string::npos && s.find('(') == std::string::npos) s.erase(dot);
     int depth = 0;
     for (std::size_t i = 0; i < s.size(); ++i) {
@@ -87,6 +89,7 @@ TEST(TierAudit, FunctionNames)
     EXPECT_EQ(functionName("void t3::arith::cvt_sse41<short, 3>(short const*, long) [clone .isra.0]"), "cvt_sse41");
     EXPECT_EQ(functionName("t3::row_sse41(unsigned char const*)"), "row_sse41");
     EXPECT_EQ(functionName("kernel_sse41.cold"), "kernel_sse41");
+    EXPECT_EQ(functionName("t3::(anonymous namespace)::swap_sse41<3>(unsigned char const*)"), "swap_sse41");
 }
 
 TEST(TierAudit, NothingAboveSse3OutsideSse41Kernels)
