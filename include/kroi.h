@@ -330,6 +330,73 @@ void kroiFree(void* ptr);
  * Copy and Set
  * ======================================================================================= */
 /* section COPYSET */
+/* Copy and Set, for 8u, 16u, 16s, 32s and 32f.
+ *
+ * kroiCopy_<t>_<layout>R copies the source ROI into the destination ROI of the same size;
+ * kroiSet_<t>_<layout>R fills the destination ROI with constants (C1R takes the value,
+ * C3R and AC4R an array of three, C4R an array of four).  AC4 forms never read or write the
+ * fourth (alpha) channel of the destination: it keeps its value.  The results are exact.
+ *
+ * Checks, in this order: a null pointer (pSrc, pDst, the value array, a mask, a plane
+ * pointer array or any plane in it) gives kroStsNullPointerErr (-8); a width or height
+ * below 1 gives kroStsBadSizeErr (-6).  Steps are not checked and are used as given
+ * (negative steps walk bottom-up; a destination step of 0 writes the same row again, the
+ * last row's values winning).  Copy and Set return only 0, -8 and -6; the _L copies also
+ * return the status of their one-dimensional row copy.  An error writes nothing.
+ *
+ * Whole copies (C1R, C3R, C4R, AC4R) need a source and a destination that do not overlap.
+ * Contiguous images (both steps equal to the row's bytes, width and height below 32768)
+ * are copied as one long row.  Copies of more than 1,048,576 bytes write with non-temporal
+ * (cache-bypassing) stores, as do fills of more than 524,288 bytes that are at least as
+ * large as the largest cache reported by kroGetMaxCacheSizeB (a failed query means
+ * ordinary stores); either is followed by a store fence before the function returns, so
+ * the caller's later stores are seen after the image.  A fill whose destination step equals
+ * the row's bytes is done as one long row.
+ */
+
+/* Whole copies. */
+KroStatus kroiCopy_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32s_C1R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32s_C3R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32s_C4R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32s_AC4R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+
+/* Whole fills. */
+KroStatus kroiSet_8u_C1R(Kro8u value, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_8u_C3R(const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_8u_C4R(const Kro8u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_8u_AC4R(const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_16u_C1R(Kro16u value, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_16u_C3R(const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_16u_C4R(const Kro16u value[4], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_16u_AC4R(const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_16s_C1R(Kro16s value, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_16s_C3R(const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_16s_C4R(const Kro16s value[4], Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_16s_AC4R(const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_32s_C1R(Kro32s value, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_32s_C3R(const Kro32s value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_32s_C4R(const Kro32s value[4], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_32s_AC4R(const Kro32s value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_32f_C1R(Kro32f value, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_32f_C3R(const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_32f_C4R(const Kro32f value[4], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_32f_AC4R(const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize);
 
 /* end of section COPYSET */
 

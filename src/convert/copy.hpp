@@ -1,0 +1,96 @@
+// Copy and Set: the pixel layouts and the row kernels that copy.cpp, copy_channel.cpp and
+// set.cpp share.
+//
+// The whole-image copies are byte copies (a C3 row of 16u is 6 x width bytes), so their
+// kernels never see the element type.  The forms that leave channels alone (AC4, the masked
+// forms) work per pixel, with a scalar body that is the definition and an SSE2 body over 16
+// bytes that gives the same bytes.
+#pragma once
+
+#include <emmintrin.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+#include "convert/stream.hpp"
+#include "frame/base.hpp"
+
+namespace KROI_TIER::convert {
+
+// Pixel layouts of the whole-image forms.  AC4 has four channels of which the fourth is
+// neither read nor written.
+enum Layout { C1, C3, C4, AC4 };
+
+constexpr int channels(Layout l) { return l == C1 ? 1 : l == C3 ? 3 : 4; }
+// Channels the operation reads and writes.
+constexpr int written(Layout l) { return l == AC4 ? 3 : channels(l); }
+
+template <class T>
+inline const unsigned char* bytes(const T* p) { return reinterpret_cast<const unsigned char*>(p); }
+template <class T>
+inline unsigned char* bytes(T* p) { return reinterpret_cast<unsigned char*>(p); }
+
+// The pattern of a pixel of C elements of type T whose element `channel` is all ones and
+// the others zero: with it, the row kernels below write one channel, or (with channel 3 of
+// four) keep the alpha channel.
+template <class T, int C>
+inline stream::Pattern channelBytes(int channel)
+{
+    T px[C] = {};
+    std::memset(&px[channel], 0xFF, sizeof(T));
+    return stream::Pattern::of(px, sizeof px);
+}
+// The complement: ones everywhere except on `channel`.
+template <class T, int C>
+inline stream::Pattern otherBytes(int channel)
+{
+    stream::Pattern p = channelBytes<T, C>(channel);
+    for (unsigned char& b : p.bytes) b = static_cast<unsigned char>(~b);
+    return p;
+}
+
+// The operation of the forms that leave some bytes alone (AC4 alpha, the other channels of
+// the one-channel forms): byte i of a row becomes keep[i mod 48] ? d[i] : s[i], where s is
+// a source row or a fill pattern.
+struct KeepBytes {
+    static unsigned char scalar(unsigned char s, unsigned char d, unsigned char keep) { return keep ? d : s; }
+    static __m128i vec(__m128i s, __m128i d, __m128i keep)
+    {
+        return _mm_or_si128(_mm_andnot_si128(keep, s), _mm_and_si128(keep, d));
+    }
+};
+
+// Row of n bytes from a source row s: d[i] = KeepBytes(s[i], d[i], keep[i mod 48]).
+inline void keepRow(const unsigned char* s, unsigned char* d, std::size_t n, const stream::Pattern& keep)
+{
+    const __m128i* k = reinterpret_cast<const __m128i*>(keep.bytes);
+    std::size_t i = 0;
+    for (int j = 0; i + 16 <= n; i += 16, j = j == 2 ? 0 : j + 1) {
+        const __m128i a = _mm_loadu_si128(reinterpret_cast<const __m128i*>(s + i));
+        const __m128i b = _mm_loadu_si128(reinterpret_cast<const __m128i*>(d + i));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(d + i), KeepBytes::vec(a, b, _mm_load_si128(k + j)));
+    }
+    for (; i < n; ++i) d[i] = KeepBytes::scalar(s[i], d[i], keep.bytes[i % 48]);
+}
+
+// Row of n bytes from a fill pattern: d[i] = KeepBytes(value[i mod 48], d[i], keep[i mod 48]).
+inline void keepFillRow(const stream::Pattern& value, unsigned char* d, std::size_t n, const stream::Pattern& keep)
+{
+    const __m128i* k = reinterpret_cast<const __m128i*>(keep.bytes);
+    const __m128i* v = reinterpret_cast<const __m128i*>(value.bytes);
+    std::size_t i = 0;
+    for (int j = 0; i + 16 <= n; i += 16, j = j == 2 ? 0 : j + 1) {
+        const __m128i b = _mm_loadu_si128(reinterpret_cast<const __m128i*>(d + i));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(d + i),
+                         KeepBytes::vec(_mm_load_si128(v + j), b, _mm_load_si128(k + j)));
+    }
+    for (; i < n; ++i) d[i] = KeepBytes::scalar(value.bytes[i % 48], d[i], keep.bytes[i % 48]);
+}
+
+// Copies `height` rows of `rowBytes` bytes, with non-temporal stores when `streaming` (and
+// the fence after them).
+void copyRows(const unsigned char* s, std::ptrdiff_t srcStep, unsigned char* d, std::ptrdiff_t dstStep,
+              std::size_t rowBytes, int height, bool streaming);
+
+}  // namespace KROI_TIER::convert

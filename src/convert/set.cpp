@@ -1,0 +1,88 @@
+// Set: fill an image, or some of its channels, with constants.
+//
+// A fill is a byte pattern of period 48 (stream::Pattern), repeated from the start of each
+// row: the definition is d[x * C + c] = value[c], and the pattern holds exactly those bytes.
+#include "convert/copy.hpp"
+
+#include "frame/bind.hpp"
+#include "frame/check.hpp"
+
+namespace KROI_TIER::convert {
+
+// Fills of more bytes than this may stream: the core library is asked for its largest cache,
+// and a fill at least that large bypasses it.  A smaller fill stays in cache, where its
+// reader will find it.
+constexpr int64_t kSetStreamBytes = 0x80000;
+
+bool setStreams(int64_t total)
+{
+    if (total <= kSetStreamBytes) return false;
+    int cache = 0;
+    return kroGetMaxCacheSizeB(&cache) == kroStsOk && total >= cache;
+}
+
+// Fills `height` rows of `rowBytes` bytes with the pattern.
+void fillRows(unsigned char* d, std::ptrdiff_t step, std::size_t rowBytes, int height, const stream::Pattern& p)
+{
+    const int64_t total = int64_t(rowBytes) * height;
+    if (step == std::ptrdiff_t(rowBytes)) rowBytes = total, height = 1;  // contiguous: one row
+    if (setStreams(total)) {
+        for (int y = 0; y < height; ++y) stream::fillRow<stream::storeStreaming>(d + y * step, rowBytes, p);
+        stream::fence();
+    } else if (p.uniform()) {
+        for (int y = 0; y < height; ++y) std::memset(d + y * step, p.bytes[0], rowBytes);
+    } else {
+        for (int y = 0; y < height; ++y) stream::fillRow<stream::storeCached>(d + y * step, rowBytes, p);
+    }
+}
+
+// Rows of n bytes where only the bytes not in `keep` take the pattern's values.
+void fillKeepRows(unsigned char* d, std::ptrdiff_t step, std::size_t n, int height, const stream::Pattern& value,
+                  const stream::Pattern& keep)
+{
+    for (int y = 0; y < height; ++y) keepFillRow(value, d + y * step, n, keep);
+}
+
+// C1 takes its value, the other layouts an array of written(L) values.
+template <class T, Layout L>
+using Value = std::conditional_t<L == C1, T, const T*>;
+
+template <class T, Layout L>
+stream::Pattern pattern(Value<T, L> value)
+{
+    T px[channels(L)] = {};
+    if constexpr (L == C1)
+        px[0] = value;
+    else
+        for (int c = 0; c < written(L); ++c) px[c] = value[c];
+    return stream::Pattern::of(px, sizeof px);
+}
+
+// Whole fill.
+template <class T, Layout L>
+KroStatus set(Value<T, L> value, T* pDst, int dstStep, KroiSize roi)
+{
+    if constexpr (L == C1)
+        KROI_CHECK(check::pointers(pDst));
+    else
+        KROI_CHECK(check::pointers(value, pDst));
+    KROI_CHECK(check::roi(roi));
+    const stream::Pattern p = pattern<T, L>(value);
+    const std::size_t rowBytes = std::size_t(roi.width) * channels(L) * sizeof(T);
+    if constexpr (L == AC4)
+        fillKeepRows(bytes(pDst), dstStep, rowBytes, roi.height, p, channelBytes<T, 4>(3));
+    else
+        fillRows(bytes(pDst), dstStep, rowBytes, roi.height, p);
+    return kroStsOk;
+}
+
+}  // namespace KROI_TIER::convert
+
+// The list names layouts as template arguments (convert::AC4), which are read here.
+namespace convert = KROI_TIER::convert;
+
+#define KROI_EXPORT KROI_BIND
+KROI_BIND_LIST {
+#include "convert/set.exports.inc"
+}
+#undef KROI_EXPORT
