@@ -94,3 +94,61 @@ void copyRows(const unsigned char* s, std::ptrdiff_t srcStep, unsigned char* d, 
               std::size_t rowBytes, int height, bool streaming);
 
 }  // namespace KROI_TIER::convert
+
+namespace KROI_TIER::convert {
+
+// ---- masked forms ----------------------------------------------------------------------
+// Pixel x of a row is written where mask[x] is non-zero; its first written(L) elements
+// take the source's (or the fill's) values, everything else stays as it was.
+
+// Bytes per pixel of a layout.
+template <class T, Layout L>
+constexpr int pixelBytes = channels(L) * int(sizeof(T));
+// Pixels whose size divides 16 get a vector body: 16 / B mask bytes cover one vector.
+template <class T, Layout L>
+constexpr bool kMaskVector = 16 % pixelBytes<T, L> == 0;
+
+// The keep bytes of 16 / B pixels from their mask bytes: 0xFF across a pixel whose mask
+// byte is zero, and across the alpha of AC4 pixels.
+template <class T, Layout L>
+inline __m128i maskKeep(const Kro8u* m, __m128i alpha)
+{
+    constexpr int B = pixelBytes<T, L>, n = 16 / B;
+    __m128i k;
+    if constexpr (n == 16) {
+        k = _mm_loadu_si128(reinterpret_cast<const __m128i*>(m));
+    } else {
+        int64_t bits = 0;
+        std::memcpy(&bits, m, n);
+        k = _mm_cvtsi64_si128(bits);
+    }
+    k = _mm_cmpeq_epi8(k, _mm_setzero_si128());
+    // Widen each mask byte across its pixel's B bytes.
+    if constexpr (B >= 2) k = _mm_unpacklo_epi8(k, k);
+    if constexpr (B >= 4) k = _mm_unpacklo_epi16(k, k);
+    if constexpr (B >= 8) k = _mm_unpacklo_epi32(k, k);
+    if constexpr (B >= 16) k = _mm_unpacklo_epi64(k, k);
+    return L == AC4 ? _mm_or_si128(k, alpha) : k;
+}
+
+// One masked row.  `s` is a source row, or, when `fill` is given, ignored in favour of the
+// fill pattern (whose period divides 48 and, for vector pixels, 16).
+template <class T, Layout L>
+void maskedRow(const T* s, T* d, const Kro8u* m, int width, const stream::Pattern* fill)
+{
+    constexpr int C = channels(L), B = pixelBytes<T, L>;
+    int x = 0;
+    if constexpr (kMaskVector<T, L>) {
+        const __m128i alpha = _mm_loadu_si128(reinterpret_cast<const __m128i*>(channelBytes<T, 4>(3).bytes));
+        const __m128i value = fill ? _mm_loadu_si128(reinterpret_cast<const __m128i*>(fill->bytes)) : __m128i{};
+        for (constexpr int n = 16 / B; x + n <= width; x += n) {
+            __m128i* dv = reinterpret_cast<__m128i*>(d + x * C);
+            const __m128i sv = fill ? value : _mm_loadu_si128(reinterpret_cast<const __m128i*>(s + x * C));
+            _mm_storeu_si128(dv, KeepBytes::vec(sv, _mm_loadu_si128(dv), maskKeep<T, L>(m + x, alpha)));
+        }
+    }
+    for (; x < width; ++x)
+        if (m[x]) std::memcpy(d + x * C, fill ? static_cast<const void*>(fill->bytes) : s + x * C, written(L) * sizeof(T));
+}
+
+}  // namespace KROI_TIER::convert

@@ -6,6 +6,7 @@
 
 #include "frame/bind.hpp"
 #include "frame/check.hpp"
+#include "frame/rows.hpp"
 
 namespace KROI_TIER::convert {
 
@@ -73,6 +74,36 @@ KroStatus set(Value<T, L> value, T* pDst, int dstStep, KroiSize roi)
         fillKeepRows(bytes(pDst), dstStep, rowBytes, roi.height, p, channelBytes<T, 4>(3));
     else
         fillRows(bytes(pDst), dstStep, rowBytes, roi.height, p);
+    return kroStsOk;
+}
+
+// Masked fill: pixels whose mask byte is non-zero take the values.
+template <class T, Layout L>
+KroStatus setMasked(Value<T, L> value, T* pDst, int dstStep, KroiSize roi, const Kro8u* pMask, int maskStep)
+{
+    if constexpr (L == C1)
+        KROI_CHECK(check::pointers(pDst, pMask));
+    else
+        KROI_CHECK(check::pointers(value, pDst, pMask));
+    KROI_CHECK(check::roi(roi));
+    const stream::Pattern p = pattern<T, L>(value);
+    rows::each(
+        roi.width, roi.height, [&](T* d, const Kro8u* m, int w) { maskedRow<T, L>(nullptr, d, m, w, &p); },
+        rows::image(pDst, dstStep), rows::image(pMask, maskStep));
+    return kroStsOk;
+}
+
+// One channel of a C-channel image (the pointer at that channel) takes the value.  A row
+// spans from the first pixel's channel to the last pixel's, the other channels between them
+// keeping their values.
+template <class T, int C>
+KroStatus setChannel(T value, T* pDst, int dstStep, KroiSize roi)
+{
+    KROI_CHECK(check::pointers(pDst));
+    KROI_CHECK(check::roi(roi));
+    T px[C] = {value};
+    const std::size_t span = (std::size_t(roi.width - 1) * C + 1) * sizeof(T);
+    fillKeepRows(bytes(pDst), dstStep, span, roi.height, stream::Pattern::of(px, sizeof px), otherBytes<T, C>(0));
     return kroStsOk;
 }
 
