@@ -402,86 +402,46 @@ KroStatus kroiSet_32f_AC4R(const Kro32f value[3], Kro32f* pDst, int dstStep, Kro
  * non-zero (pMask, maskStep: an 8u image of the ROI's size); every other destination pixel
  * keeps its value.  Checks: pSrc (copy) or the value array (fills other than C1), pDst,
  * pMask null: -8; size: -6. */
-KroStatus kroiCopy_8u_C1MR(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                           const Kro8u* pMask, int maskStep);
-KroStatus kroiCopy_8u_C3MR(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                           const Kro8u* pMask, int maskStep);
-KroStatus kroiCopy_8u_C4MR(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                           const Kro8u* pMask, int maskStep);
-KroStatus kroiCopy_8u_AC4MR(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                           const Kro8u* pMask, int maskStep);
-KroStatus kroiCopy_16u_C1MR(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-                           const Kro8u* pMask, int maskStep);
-KroStatus kroiCopy_16u_C3MR(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-                           const Kro8u* pMask, int maskStep);
-KroStatus kroiCopy_16u_C4MR(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-                           const Kro8u* pMask, int maskStep);
-KroStatus kroiCopy_16u_AC4MR(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-                           const Kro8u* pMask, int maskStep);
-KroStatus kroiCopy_16s_C1MR(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-                           const Kro8u* pMask, int maskStep);
-KroStatus kroiCopy_16s_C3MR(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-                           const Kro8u* pMask, int maskStep);
-KroStatus kroiCopy_16s_C4MR(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-                           const Kro8u* pMask, int maskStep);
-KroStatus kroiCopy_16s_AC4MR(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-                           const Kro8u* pMask, int maskStep);
-KroStatus kroiCopy_32s_C1MR(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize,
-                           const Kro8u* pMask, int maskStep);
-KroStatus kroiCopy_32s_C3MR(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize,
-                           const Kro8u* pMask, int maskStep);
-KroStatus kroiCopy_32s_C4MR(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize,
-                           const Kro8u* pMask, int maskStep);
-KroStatus kroiCopy_32s_AC4MR(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize,
-                           const Kro8u* pMask, int maskStep);
-KroStatus kroiCopy_32f_C1MR(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize,
-                           const Kro8u* pMask, int maskStep);
-KroStatus kroiCopy_32f_C3MR(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize,
-                           const Kro8u* pMask, int maskStep);
-KroStatus kroiCopy_32f_C4MR(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize,
-                           const Kro8u* pMask, int maskStep);
-KroStatus kroiCopy_32f_AC4MR(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize,
-                           const Kro8u* pMask, int maskStep);
-KroStatus kroiSet_8u_C1MR(Kro8u value, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask,
-                          int maskStep);
-KroStatus kroiSet_8u_C3MR(const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask,
-                          int maskStep);
-KroStatus kroiSet_8u_C4MR(const Kro8u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask,
-                          int maskStep);
-KroStatus kroiSet_8u_AC4MR(const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask,
-                          int maskStep);
-KroStatus kroiSet_16u_C1MR(Kro16u value, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask,
-                          int maskStep);
-KroStatus kroiSet_16u_C3MR(const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask,
-                          int maskStep);
-KroStatus kroiSet_16u_C4MR(const Kro16u value[4], Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask,
-                          int maskStep);
-KroStatus kroiSet_16u_AC4MR(const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask,
-                          int maskStep);
-KroStatus kroiSet_16s_C1MR(Kro16s value, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask,
-                          int maskStep);
-KroStatus kroiSet_16s_C3MR(const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask,
-                          int maskStep);
-KroStatus kroiSet_16s_C4MR(const Kro16s value[4], Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask,
-                          int maskStep);
-KroStatus kroiSet_16s_AC4MR(const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask,
-                          int maskStep);
-KroStatus kroiSet_32s_C1MR(Kro32s value, Kro32s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask,
-                          int maskStep);
-KroStatus kroiSet_32s_C3MR(const Kro32s value[3], Kro32s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask,
-                          int maskStep);
-KroStatus kroiSet_32s_C4MR(const Kro32s value[4], Kro32s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask,
-                          int maskStep);
-KroStatus kroiSet_32s_AC4MR(const Kro32s value[3], Kro32s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask,
-                          int maskStep);
-KroStatus kroiSet_32f_C1MR(Kro32f value, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask,
-                          int maskStep);
-KroStatus kroiSet_32f_C3MR(const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask,
-                          int maskStep);
-KroStatus kroiSet_32f_C4MR(const Kro32f value[4], Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask,
-                          int maskStep);
-KroStatus kroiSet_32f_AC4MR(const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask,
-                          int maskStep);
+KroStatus kroiCopy_8u_C1MR(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_8u_C3MR(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_8u_C4MR(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_8u_AC4MR(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_16u_C1MR(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_16u_C3MR(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_16u_C4MR(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_16u_AC4MR(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_16s_C1MR(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_16s_C3MR(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_16s_C4MR(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_16s_AC4MR(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_32s_C1MR(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_32s_C3MR(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_32s_C4MR(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_32s_AC4MR(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_32f_C1MR(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_32f_C3MR(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_32f_C4MR(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_32f_AC4MR(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_8u_C1MR(Kro8u value, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_8u_C3MR(const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_8u_C4MR(const Kro8u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_8u_AC4MR(const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_16u_C1MR(Kro16u value, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_16u_C3MR(const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_16u_C4MR(const Kro16u value[4], Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_16u_AC4MR(const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_16s_C1MR(Kro16s value, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_16s_C3MR(const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_16s_C4MR(const Kro16s value[4], Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_16s_AC4MR(const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_32s_C1MR(Kro32s value, Kro32s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_32s_C3MR(const Kro32s value[3], Kro32s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_32s_C4MR(const Kro32s value[4], Kro32s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_32s_AC4MR(const Kro32s value[3], Kro32s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_32f_C1MR(Kro32f value, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_32f_C3MR(const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_32f_C4MR(const Kro32f value[4], Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_32f_AC4MR(const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
 
 /* Channel copies.  C3CR and C4CR copy one channel into the same or another channel of
  * another image (both pointers at the chosen channel of the first pixel); C3C1R and C4C1R

@@ -45,7 +45,8 @@ bool overlap(Range a, Range b) { return a.lo < b.hi && b.lo < a.hi; }
 template <class Map, class T>
 void copyOverlapping(const T* s, std::ptrdiff_t ss, T* d, std::ptrdiff_t ds, int w, int h)
 {
-    const auto srcSpan = std::ptrdiff_t(Map::span(Map::kSrcStride, w)), dstSpan = std::ptrdiff_t(Map::span(Map::kDstStride, w));
+    const auto srcSpan = std::ptrdiff_t(Map::span(Map::kSrcStride, w) * sizeof(T));
+    const auto dstSpan = std::ptrdiff_t(Map::span(Map::kDstStride, w) * sizeof(T));
     const bool rising = h == 1 || (ss >= srcSpan && ds >= dstSpan);
     const bool falling = !rising && ss <= -srcSpan && ds <= -dstSpan;
     if (!rising && !falling) {

@@ -61,8 +61,10 @@ KROI_SSE41 inline void storeu_sse41(Kro8u* p, __m128i v) { _mm_storeu_si128(rein
 
 KROI_SSE41 void extract3_8u_sse41(const Kro8u* s, Kro8u* d, std::ptrdiff_t n)
 {
+    // The source row ends at its last pixel's first byte: 16 pixels are loaded as 48 bytes
+    // only while a 17th pixel follows.
     std::ptrdiff_t x = 0;
-    for (; x + 16 <= n; x += 16, s += 48)
+    for (; x + 17 <= n; x += 16, s += 48)
         storeu_sse41(d + x, gather_sse41(loadu_sse41(s), loadu_sse41(s + 16), loadu_sse41(s + 32), 0));
     for (; x < n; ++x, s += 3) d[x] = s[0];
 }

@@ -1,6 +1,8 @@
 // Whole-image Copy and Set: every member against the rule on random images, with padded
 // steps, unaligned starts, guard pages on either side, bottom-up rows, the merged and the
 // streaming paths, and the check order with canaries.
+#include <sys/mman.h>
+
 #include <cstring>
 #include <string>
 #include <utility>
@@ -99,6 +101,48 @@ template <> std::vector<SetMember<Kro32f>> sets()
     using T = Kro32f;
     return {KT_SET1(kroiSet_32f_C1R), KT_SET(kroiSet_32f_C3R, 3, 3), KT_SET(kroiSet_32f_C4R, 4, 4),
             KT_SET(kroiSet_32f_AC4R, 4, 3)};
+}
+
+
+// The 64-bit copies, each beside its 32-bit form.
+template <class T>
+struct LongMember {
+    const char* name;
+    KroStatus (*fn)(const T*, int64_t, T*, int64_t, KroiSizeL);
+    KroStatus (*narrow)(const T*, int, T*, int, KroiSize);
+    int channels;
+};
+#define KT_LONG(fn, narrow, channels) LongMember<T>{#fn, fn, narrow, channels}
+template <class T> std::vector<LongMember<T>> longs();
+template <> std::vector<LongMember<Kro8u>> longs()
+{
+    using T = Kro8u;
+    return {KT_LONG(kroiCopy_8u_C1R_L, kroiCopy_8u_C1R, 1), KT_LONG(kroiCopy_8u_C3R_L, kroiCopy_8u_C3R, 3),
+            KT_LONG(kroiCopy_8u_C4R_L, kroiCopy_8u_C4R, 4), KT_LONG(kroiCopy_8u_AC4R_L, kroiCopy_8u_AC4R, 4)};
+}
+template <> std::vector<LongMember<Kro16u>> longs()
+{
+    using T = Kro16u;
+    return {KT_LONG(kroiCopy_16u_C1R_L, kroiCopy_16u_C1R, 1), KT_LONG(kroiCopy_16u_C3R_L, kroiCopy_16u_C3R, 3),
+            KT_LONG(kroiCopy_16u_C4R_L, kroiCopy_16u_C4R, 4), KT_LONG(kroiCopy_16u_AC4R_L, kroiCopy_16u_AC4R, 4)};
+}
+template <> std::vector<LongMember<Kro16s>> longs()
+{
+    using T = Kro16s;
+    return {KT_LONG(kroiCopy_16s_C1R_L, kroiCopy_16s_C1R, 1), KT_LONG(kroiCopy_16s_C3R_L, kroiCopy_16s_C3R, 3),
+            KT_LONG(kroiCopy_16s_C4R_L, kroiCopy_16s_C4R, 4), KT_LONG(kroiCopy_16s_AC4R_L, kroiCopy_16s_AC4R, 4)};
+}
+template <> std::vector<LongMember<Kro32s>> longs()
+{
+    using T = Kro32s;
+    return {KT_LONG(kroiCopy_32s_C1R_L, kroiCopy_32s_C1R, 1), KT_LONG(kroiCopy_32s_C3R_L, kroiCopy_32s_C3R, 3),
+            KT_LONG(kroiCopy_32s_C4R_L, kroiCopy_32s_C4R, 4), KT_LONG(kroiCopy_32s_AC4R_L, kroiCopy_32s_AC4R, 4)};
+}
+template <> std::vector<LongMember<Kro32f>> longs()
+{
+    using T = Kro32f;
+    return {KT_LONG(kroiCopy_32f_C1R_L, kroiCopy_32f_C1R, 1), KT_LONG(kroiCopy_32f_C3R_L, kroiCopy_32f_C3R, 3),
+            KT_LONG(kroiCopy_32f_C4R_L, kroiCopy_32f_C4R, 4), KT_LONG(kroiCopy_32f_AC4R_L, kroiCopy_32f_AC4R, 4)};
 }
 
 // The shapes every member runs on: widths around the 16- and 48-byte periods, tight and
@@ -236,6 +280,83 @@ TEST(SetPaths, ZeroStep)
     EXPECT_IMAGE_EQ(row, [&](int, int, int c) { return v[c]; });
     ASSERT_EQ(kroiSet_8u_C1R(200, row.ptr(), 0, {111, 3}), kroStsOk);
     EXPECT_IMAGE_EQ(row, [&](int, int, int) { return 200; });
+}
+
+// The 64-bit copies give the 32-bit copies' result (alpha kept, padding untouched), on
+// padded, bottom-up and unaligned images.
+TYPED_TEST(CopySet, LongFormMatchesNarrow)
+{
+    using T = TypeParam;
+    auto rng = kt::rngForTest();
+    for (const auto& m : longs<T>())
+        for (const Shape& sh : {Shape{1, 1, m.channels}, Shape{37, 3, m.channels, 5, Guard::Before, 3},
+                                Shape{64, 2, m.channels, 0, Guard::After, 0, true}}) {
+            Guarded<T> src(sh), a(sh), b(sh);
+            kt::fillRandom(src, rng);
+            kt::fillRandom(a, rng);
+            std::memcpy(b.lowest(), a.lowest(), a.spanBytes());
+            ASSERT_EQ(m.fn(src.ptr(), src.step(), a.ptr(), a.step(), {sh.width, sh.height}), kroStsOk) << m.name;
+            ASSERT_EQ(m.narrow(src.ptr(), src.step(), b.ptr(), b.step(), {sh.width, sh.height}), kroStsOk);
+            EXPECT_TRUE(a.unchangedSince(b.snapshot())) << m.name;
+        }
+}
+
+// No forwarding test: the checks come first whatever the steps, and a zero size is -6.
+TYPED_TEST(CopySet, LongFormCheckOrder)
+{
+    using T = TypeParam;
+    Guarded<T> src(3, 2, 4), dst(3, 2, 4);
+    dst.fillBytes(0x42);
+    const auto before = dst.snapshot();
+    const int64_t huge = int64_t{1} << 40;
+    for (const auto& m : longs<T>()) {
+        EXPECT_EQ(m.fn(nullptr, huge, dst.ptr(), huge, {0, 0}), kroStsNullPointerErr) << m.name;
+        EXPECT_EQ(m.fn(src.ptr(), src.step(), nullptr, dst.step(), {3, 2}), kroStsNullPointerErr) << m.name;
+        EXPECT_EQ(m.fn(src.ptr(), huge, dst.ptr(), huge, {3, 0}), kroStsBadSizeErr) << m.name;
+        EXPECT_EQ(m.fn(src.ptr(), src.step(), dst.ptr(), dst.step(), {-1, 2}), kroStsBadSizeErr) << m.name;
+    }
+    EXPECT_TRUE(dst.unchangedSince(before));
+}
+
+// Steps beyond 32 bits: two rows 4 GiB apart in a reserved, mostly untouched mapping.
+TEST(CopyPaths, LongStepsBeyond32Bits)
+{
+    const int64_t step = (int64_t{1} << 32) + 64, bytes = 2 * step + 4096;
+    void* map = mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    if (map == MAP_FAILED) GTEST_SKIP() << "no 8 GiB of address space";
+    auto* base = static_cast<Kro8u*>(map);
+    for (int i = 0; i < 300; ++i) base[i] = Kro8u(i * 7), base[step + i] = Kro8u(i * 13);
+    Kro8u* dst = base + 2 * step;  // rows at 2 step and 3 step would be far; use a negative step
+    EXPECT_EQ(kroiCopy_8u_C3R_L(base, step, dst + 1000, -step, {100, 2}), kroStsOk);
+    for (int i = 0; i < 300; ++i) {
+        EXPECT_EQ(dst[1000 + i], Kro8u(i * 7)) << i;
+        EXPECT_EQ(dst[1000 - step + i], Kro8u(i * 13)) << i;
+    }
+    munmap(map, bytes);
+}
+
+// The managed copy: each flag choice, merged and row by row, small and above 1 MiB.
+TEST(CopyPaths, ManagedStores)
+{
+    auto rng = kt::rngForTest();
+    for (int flags : {0, 1, 2, 3, -1})
+        for (const Shape& sh : {Shape{33, 3, 1, 0, Guard::Before, 5}, Shape{33, 3, 1, 11}, Shape{1300, 900, 1, 0, Guard::Before, 9},
+                                Shape{1299, 901, 1, 3, Guard::After, 0, true}}) {
+            Guarded<Kro8u> src(sh), dst(Shape{sh.width, sh.height, 1, sh.padBytes, Guard::After});
+            kt::fillRandom(src, rng);
+            dst.fillBytes(0xEE);
+            const auto before = dst.snapshot();
+            ASSERT_EQ(kroiCopyManaged_8u_C1R(src.ptr(), src.step(), dst.ptr(), dst.step(), {sh.width, sh.height}, flags),
+                      kroStsOk);
+            EXPECT_IMAGE_EQ(dst, std::as_const(src)) << "flags " << flags << " width " << sh.width;
+            EXPECT_TRUE(dst.restUnchangedSince(before, 1));
+        }
+    Guarded<Kro8u> src(4, 2), dst(4, 2);
+    dst.fillBytes(1);
+    const auto before = dst.snapshot();
+    EXPECT_EQ(kroiCopyManaged_8u_C1R(src.ptr(), 4, nullptr, 4, {0, 2}, 1), kroStsNullPointerErr);
+    EXPECT_EQ(kroiCopyManaged_8u_C1R(src.ptr(), 4, dst.ptr(), 4, {4, 0}, 1), kroStsBadSizeErr);
+    EXPECT_TRUE(dst.unchangedSince(before));
 }
 
 }  // namespace
