@@ -11,8 +11,10 @@ namespace KROI_TIER::convert {
 
 namespace {
 
-// Interleaved rows of more bytes than this are written with non-temporal stores.
-constexpr int64_t kMergeStreamBytes = 0x100000;
+// Images of more bytes than this (on the interleaved side) are written with non-temporal
+// stores: planes and interleaved rows that large would only push the caller's data out of
+// the cache on their way to memory.
+constexpr int64_t kStreamBytes = 0x100000;
 // Streaming rows are built in a buffer of this many bytes, then stored out of it.
 constexpr int kChunkBytes = 6144;
 
@@ -40,6 +42,18 @@ Walk walk(int interleavedStep, int planeStep, KroiSize roi)
 
 }  // namespace
 
+// Either direction writes with non-temporal stores above kStreamBytes: the row is converted
+// a chunk at a time into a buffer that stays in the first-level cache, and streamed from
+// there, so that the kernels need not care about the destination's alignment.
+template <class T, int C>
+constexpr std::ptrdiff_t kChunk = kChunkBytes / (C * int(sizeof(T)));
+
+template <class T, int C>
+bool streams(KroiSize roi)
+{
+    return int64_t(roi.width) * roi.height * C * int(sizeof(T)) > kStreamBytes;
+}
+
 template <class T, int C>
 KroStatus copyToPlanes(const T* pSrc, int srcStep, T* const pDst[C], int dstStep, KroiSize roi)
 {
@@ -48,11 +62,25 @@ KroStatus copyToPlanes(const T* pSrc, int srcStep, T* const pDst[C], int dstStep
     KROI_CHECK(check::roi(roi));
     const Walk wk = walk<T, C>(srcStep, dstStep, roi);
     const auto split = Planes<T, C>::splitter();
+    const bool streaming = streams<T, C>(roi);
+    constexpr std::ptrdiff_t chunk = kChunk<T, C>;
+    alignas(16) T buffer[C][chunk];
+    T* const bufferPlanes[4] = {buffer[0], buffer[C > 1 ? 1 : 0], buffer[C > 2 ? 2 : 0], buffer[C > 3 ? 3 : 0]};
     for (int y = 0; y < wk.height; ++y) {
+        const T* s = longform::row(pSrc, srcStep, y);
         T* d[C];
         for (int c = 0; c < C; ++c) d[c] = longform::row(pDst[c], dstStep, y);
-        split(longform::row(pSrc, srcStep, y), d, wk.width);
+        if (!streaming) {
+            split(s, d, wk.width);
+            continue;
+        }
+        for (std::ptrdiff_t x = 0; x < wk.width; x += chunk) {
+            const std::ptrdiff_t n = wk.width - x < chunk ? wk.width - x : chunk;
+            split(s + x * C, bufferPlanes, n);
+            for (int c = 0; c < C; ++c) stream::copyRow(buffer[c], d[c] + x, std::size_t(n) * sizeof(T));
+        }
     }
+    if (streaming) stream::fence();
     return kroStsOk;
 }
 
@@ -64,8 +92,8 @@ KroStatus copyFromPlanes(const T* const pSrc[C], int srcStep, T* pDst, int dstSt
     KROI_CHECK(check::roi(roi));
     const Walk wk = walk<T, C>(dstStep, srcStep, roi);
     const auto merge = Planes<T, C>::merger();
-    const bool streaming = int64_t(roi.width) * roi.height * C * int(sizeof(T)) > kMergeStreamBytes;
-    constexpr std::ptrdiff_t chunk = kChunkBytes / (C * sizeof(T));
+    const bool streaming = streams<T, C>(roi);
+    constexpr std::ptrdiff_t chunk = kChunk<T, C>;
     alignas(16) T buffer[chunk * C];
     for (int y = 0; y < wk.height; ++y) {
         const T* s[C];

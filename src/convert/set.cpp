@@ -22,6 +22,34 @@ bool setStreams(int64_t total)
     return kroGetMaxCacheSizeB(&cache) == kroStsOk && total >= cache;
 }
 
+// Bytes of a row stored from the pattern before the rest is copied from them: a multiple of
+// the pattern's period (48) that stays in the first-level cache while it is copied.
+constexpr std::size_t kReplicate = 48 * 512;
+// Rows shorter than this are stored from the pattern whole: a library call per row would
+// cost more than it saves.
+constexpr std::size_t kShortRow = 1024;
+
+// Ordinary stores of a pattern that is not one repeated byte.  The first kReplicate bytes
+// (or the first row) are stored from the pattern; everything after them is copied from
+// those bytes with memcpy, which the C library does with the widest stores the processor
+// has, as memset does.  Every copy starts at a multiple of the period from a row start, so
+// it lands in phase.
+void fillCached(unsigned char* d, std::ptrdiff_t step, std::size_t rowBytes, int height, const stream::Pattern& p)
+{
+    const bool rowsApart = step >= std::ptrdiff_t(rowBytes) || -step >= std::ptrdiff_t(rowBytes);
+    if (rowBytes < kShortRow || !rowsApart) {
+        for (int y = 0; y < height; ++y) stream::fillRow<stream::storeCached>(d + y * step, rowBytes, p);
+        return;
+    }
+    const std::size_t first = rowBytes < kReplicate ? rowBytes : kReplicate;
+    stream::fillRow<stream::storeCached>(d, first, p);
+    for (int y = 0; y < height; ++y) {
+        unsigned char* row = d + y * step;
+        for (std::size_t x = y == 0 ? first : 0; x < rowBytes; x += first)
+            std::memcpy(row + x, d, rowBytes - x < first ? rowBytes - x : first);
+    }
+}
+
 // Fills `height` rows of `rowBytes` bytes with the pattern.
 void fillRows(unsigned char* d, std::ptrdiff_t step, std::size_t rowBytes, int height, const stream::Pattern& p)
 {
@@ -33,7 +61,7 @@ void fillRows(unsigned char* d, std::ptrdiff_t step, std::size_t rowBytes, int h
     } else if (p.uniform()) {
         for (int y = 0; y < height; ++y) std::memset(d + y * step, p.bytes[0], rowBytes);
     } else {
-        for (int y = 0; y < height; ++y) stream::fillRow<stream::storeCached>(d + y * step, rowBytes, p);
+        fillCached(d, step, rowBytes, height, p);
     }
 }
 

@@ -270,6 +270,23 @@ TEST(SetPaths, StreamingFill)
     EXPECT_TRUE(f.restUnchangedSince(std::vector<unsigned char>(f.spanBytes(), 0), 1));
 }
 
+// Long rows are filled a piece at a time (rows of 30000 and 60000 bytes), padded or
+// contiguous, at odd starts.
+TEST(SetPaths, LongRows)
+{
+    for (int pad : {0, 24}) {
+        Guarded<Kro16s> dst(Shape{5000, 3, 3, pad, Guard::Before, 2});
+        dst.fillBytes(0);
+        const Kro16s v[3] = {-7, 300, 5};
+        ASSERT_EQ(kroiSet_16s_C3R(v, dst.ptr(), dst.step(), {5000, 3}), kroStsOk);
+        EXPECT_IMAGE_EQ(dst, [&](int, int, int c) { return v[c]; });
+        EXPECT_TRUE(dst.restUnchangedSince(std::vector<unsigned char>(dst.spanBytes(), 0), 3));
+        Guarded<Kro32f> f(Shape{15000, 2, 1, pad, Guard::After});
+        ASSERT_EQ(kroiSet_32f_C1R(1.5f, f.ptr(), f.step(), {15000, 2}), kroStsOk);
+        EXPECT_IMAGE_EQ(f, [](int, int, int) { return 1.5f; });
+    }
+}
+
 // A destination step of 0 writes the same row every time.
 TEST(SetPaths, ZeroStep)
 {
