@@ -50,6 +50,15 @@ constexpr Bytes16 kSpread[3] = {spread(0), spread(1), spread(2)};
 KROI_SSE41 inline __m128i load_sse41(const Bytes16& m) { return _mm_load_si128(reinterpret_cast<const __m128i*>(m.b)); }
 KROI_SSE41 inline __m128i loadu_sse41(const Kro8u* p) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p)); }
 KROI_SSE41 inline void storeu_sse41(Kro8u* p, __m128i v) { _mm_storeu_si128(reinterpret_cast<__m128i*>(p), v); }
+// Streaming stores need 16-byte aligned destinations; the caller checks.
+template <bool Stream>
+KROI_SSE41 inline void store_sse41(Kro8u* p, __m128i v)
+{
+    if constexpr (Stream)
+        _mm_stream_si128(reinterpret_cast<__m128i*>(p), v);
+    else
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(p), v);
+}
 
 // The masks and controls, loaded once per row.
 struct Masks {
@@ -80,6 +89,7 @@ KROI_SSE41 void extract3_8u_sse41(const Kro8u* s, Kro8u* d, std::ptrdiff_t n)
     for (; x < n; ++x, s += 3) d[x] = s[0];
 }
 
+template <bool Stream>
 KROI_SSE41 void split3_8u_sse41(const Kro8u* s, Kro8u* const* d, std::ptrdiff_t n)
 {
     const Masks m = masks_sse41(kOrder);
@@ -87,13 +97,14 @@ KROI_SSE41 void split3_8u_sse41(const Kro8u* s, Kro8u* const* d, std::ptrdiff_t 
     std::ptrdiff_t x = 0;
     for (; x + 16 <= n; x += 16, s += 48) {
         const __m128i a = loadu_sse41(s), b = loadu_sse41(s + 16), c = loadu_sse41(s + 32);
-        storeu_sse41(d0 + x, plane_sse41(m, a, b, c, 0));
-        storeu_sse41(d1 + x, plane_sse41(m, a, b, c, 1));
-        storeu_sse41(d2 + x, plane_sse41(m, a, b, c, 2));
+        store_sse41<Stream>(d0 + x, plane_sse41(m, a, b, c, 0));
+        store_sse41<Stream>(d1 + x, plane_sse41(m, a, b, c, 1));
+        store_sse41<Stream>(d2 + x, plane_sse41(m, a, b, c, 2));
     }
     for (; x < n; ++x, s += 3) d0[x] = s[0], d1[x] = s[1], d2[x] = s[2];
 }
 
+template <bool Stream>
 KROI_SSE41 void merge3_8u_sse41(const Kro8u* const* s, Kro8u* d, std::ptrdiff_t n)
 {
     const Masks m = masks_sse41(kSpread);
@@ -106,10 +117,15 @@ KROI_SSE41 void merge3_8u_sse41(const Kro8u* const* s, Kro8u* d, std::ptrdiff_t 
                               _mm_shuffle_epi8(loadu_sse41(s2 + x), m.control[2])};
         // Output vector o takes plane (o + r) mod 3 at positions of residue r.
         for (int o = 0; o < 3; ++o)
-            storeu_sse41(d + 16 * o, _mm_blendv_epi8(_mm_blendv_epi8(p[o % 3], p[(o + 1) % 3], m.residue[1]),
+            store_sse41<Stream>(d + 16 * o, _mm_blendv_epi8(_mm_blendv_epi8(p[o % 3], p[(o + 1) % 3], m.residue[1]),
                                                      p[(o + 2) % 3], m.residue[2]));
     }
     for (; x < n; ++x, d += 3) d[0] = s0[x], d[1] = s1[x], d[2] = s2[x];
 }
+
+template void split3_8u_sse41<false>(const Kro8u*, Kro8u* const*, std::ptrdiff_t);
+template void split3_8u_sse41<true>(const Kro8u*, Kro8u* const*, std::ptrdiff_t);
+template void merge3_8u_sse41<false>(const Kro8u* const*, Kro8u*, std::ptrdiff_t);
+template void merge3_8u_sse41<true>(const Kro8u* const*, Kro8u*, std::ptrdiff_t);
 
 }  // namespace KROI_TIER::convert

@@ -12,10 +12,13 @@
 
 namespace KROI_TIER::convert {
 
-// 8u shuffles, SSE4.1 (pshufb).  n pixels; the source and destinations do not overlap.
-void extract3_8u_sse41(const Kro8u* s, Kro8u* d, std::ptrdiff_t n);                    // d[x] = s[3x]
-void split3_8u_sse41(const Kro8u* s, Kro8u* const* d, std::ptrdiff_t n);                // d[c][x] = s[3x + c]
-void merge3_8u_sse41(const Kro8u* const* s, Kro8u* d, std::ptrdiff_t n);                // d[3x + c] = s[c][x]
+// 8u shuffles, SSE4.1 (pshufb, pblendvb).  n pixels; the source and destinations do not
+// overlap.  Stream: non-temporal stores, for 16-byte aligned destinations (the caller fences).
+KROI_SSE41 void extract3_8u_sse41(const Kro8u* s, Kro8u* d, std::ptrdiff_t n);  // d[x] = s[3x]
+template <bool Stream>
+KROI_SSE41 void split3_8u_sse41(const Kro8u* s, Kro8u* const* d, std::ptrdiff_t n);  // d[c][x] = s[3x + c]
+template <bool Stream>
+KROI_SSE41 void merge3_8u_sse41(const Kro8u* const* s, Kro8u* d, std::ptrdiff_t n);  // d[3x + c] = s[c][x]
 
 // Element k < K of source pixel x (SP elements apart) to element k of destination pixel x
 // (DP elements apart).
@@ -85,17 +88,33 @@ struct Planes {
         }
     }
 
+    static constexpr bool kShuffles = std::is_same_v<T, Kro8u> && C == 3;
+
+    // The kernels with ordinary stores; then those that stream to 16-byte aligned
+    // destinations, or null where there is none.
     static Split splitter()
     {
-        if constexpr (std::is_same_v<T, Kro8u> && C == 3)
-            if (cpu::hasSse41()) return split3_8u_sse41;
+        if constexpr (kShuffles)
+            if (cpu::hasSse41()) return split3_8u_sse41<false>;
         return split;
     }
     static Merge merger()
     {
-        if constexpr (std::is_same_v<T, Kro8u> && C == 3)
-            if (cpu::hasSse41()) return merge3_8u_sse41;
+        if constexpr (kShuffles)
+            if (cpu::hasSse41()) return merge3_8u_sse41<false>;
         return merge;
+    }
+    static Split streamingSplitter()
+    {
+        if constexpr (kShuffles)
+            if (cpu::hasSse41()) return split3_8u_sse41<true>;
+        return nullptr;
+    }
+    static Merge streamingMerger()
+    {
+        if constexpr (kShuffles)
+            if (cpu::hasSse41()) return merge3_8u_sse41<true>;
+        return nullptr;
     }
 };
 

@@ -4,6 +4,8 @@
 // row: the definition is d[x * C + c] = value[c], and the pattern holds exactly those bytes.
 #include "convert/copy.hpp"
 
+#include <algorithm>
+
 #include "frame/bind.hpp"
 #include "frame/check.hpp"
 #include "frame/rows.hpp"
@@ -15,25 +17,19 @@ namespace KROI_TIER::convert {
 // reader will find it.
 constexpr int64_t kSetStreamBytes = 0x80000;
 
-bool setStreams(int64_t total)
-{
-    if (total <= kSetStreamBytes) return false;
-    int cache = 0;
-    return kroGetMaxCacheSizeB(&cache) == kroStsOk && total >= cache;
-}
-
-// Bytes of a row stored from the pattern before the rest is copied from them: a multiple of
-// the pattern's period (48) that stays in the first-level cache while it is copied.
-constexpr std::size_t kReplicate = 48 * 512;
+// A fill that is not one repeated byte stores its first kSeed bytes from the pattern and
+// copies the rest from what it has written, in pieces that double up to kPiece bytes: both
+// multiples of the pattern's period (48), and kPiece small enough to stay in the first-level
+// cache while it is copied again and again.
+constexpr std::size_t kSeed = 48 * 64;
+constexpr std::size_t kPiece = 48 * 512;
 // Rows shorter than this are stored from the pattern whole: a library call per row would
 // cost more than it saves.
 constexpr std::size_t kShortRow = 1024;
 
-// Ordinary stores of a pattern that is not one repeated byte.  The first kReplicate bytes
-// (or the first row) are stored from the pattern; everything after them is copied from
-// those bytes with memcpy, which the C library does with the widest stores the processor
-// has, as memset does.  Every copy starts at a multiple of the period from a row start, so
-// it lands in phase.
+// Ordinary stores of a pattern that is not one repeated byte.  memcpy does the copying with
+// the widest stores the processor has, as memset does its fill.  Every copy starts at a
+// multiple of the period from a row start, so it lands in phase.
 void fillCached(unsigned char* d, std::ptrdiff_t step, std::size_t rowBytes, int height, const stream::Pattern& p)
 {
     const bool rowsApart = step >= std::ptrdiff_t(rowBytes) || -step >= std::ptrdiff_t(rowBytes);
@@ -41,21 +37,24 @@ void fillCached(unsigned char* d, std::ptrdiff_t step, std::size_t rowBytes, int
         for (int y = 0; y < height; ++y) stream::fillRow<stream::storeCached>(d + y * step, rowBytes, p);
         return;
     }
-    const std::size_t first = rowBytes < kReplicate ? rowBytes : kReplicate;
-    stream::fillRow<stream::storeCached>(d, first, p);
-    for (int y = 0; y < height; ++y) {
-        unsigned char* row = d + y * step;
-        for (std::size_t x = y == 0 ? first : 0; x < rowBytes; x += first)
-            std::memcpy(row + x, d, rowBytes - x < first ? rowBytes - x : first);
+    std::size_t have = rowBytes < kSeed ? rowBytes : kSeed;
+    stream::fillRow<stream::storeCached>(d, have, p);
+    while (have < rowBytes) {
+        const std::size_t n = std::min({have, kPiece, rowBytes - have});
+        std::memcpy(d + have, d, n);
+        have += n;
     }
+    const std::size_t piece = std::min(rowBytes, kPiece);
+    for (int y = 1; y < height; ++y)
+        for (std::size_t x = 0; x < rowBytes; x += piece) std::memcpy(d + y * step + x, d, std::min(piece, rowBytes - x));
 }
 
 // Fills `height` rows of `rowBytes` bytes with the pattern.
 void fillRows(unsigned char* d, std::ptrdiff_t step, std::size_t rowBytes, int height, const stream::Pattern& p)
 {
     const int64_t total = int64_t(rowBytes) * height;
-    if (step == std::ptrdiff_t(rowBytes)) rowBytes = total, height = 1;  // contiguous: one row
-    if (setStreams(total)) {
+    if (step == std::ptrdiff_t(rowBytes)) rowBytes = step = total, height = 1;  // contiguous: one row
+    if (stream::beyondCache(total, kSetStreamBytes)) {
         for (int y = 0; y < height; ++y) stream::fillRow<stream::storeStreaming>(d + y * step, rowBytes, p);
         stream::fence();
     } else if (p.uniform()) {

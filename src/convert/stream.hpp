@@ -25,6 +25,16 @@
 
 namespace KROI_TIER::stream {
 
+// True when a write of `bytes` bytes should stream: it is above `floor` and at least as large
+// as the largest cache the core library reports, so that it would not have stayed in the
+// cache anyway.  A failed query means ordinary stores.
+inline bool beyondCache(int64_t bytes, int64_t floor)
+{
+    if (bytes <= floor) return false;
+    int cache = 0;
+    return kroGetMaxCacheSizeB(&cache) == kroStsOk && bytes >= cache;
+}
+
 // Orders the non-temporal stores issued so far before any later store.
 inline void fence() { _mm_sfence(); }
 

@@ -253,23 +253,6 @@ TEST(CopyPaths, MergedRowAndStreaming)
         }
 }
 
-// A fill at least as large as the largest cache streams; check it at an odd start.
-TEST(SetPaths, StreamingFill)
-{
-    int cache = 0;
-    if (kroGetMaxCacheSizeB(&cache) != kroStsOk || cache > (64 << 20)) GTEST_SKIP() << "no usable cache size";
-    const int w = 4099, h = cache / (3 * w) + 2;
-    Guarded<Kro8u> dst(Shape{w, h, 3, 0, Guard::Before, 5});
-    const Kro8u v[3] = {1, 2, 3};
-    ASSERT_EQ(kroiSet_8u_C3R(v, dst.ptr(), dst.step(), {w, h}), kroStsOk);
-    EXPECT_IMAGE_EQ(dst, [&](int, int, int c) { return v[c]; });
-    Guarded<Kro32f> f(Shape{w, h / 4 * 3, 1, 12, Guard::After});
-    f.fillBytes(0);
-    ASSERT_EQ(kroiSet_32f_C1R(-2.5f, f.ptr(), f.step(), {w, h / 4 * 3}), kroStsOk);
-    EXPECT_IMAGE_EQ(f, [](int, int, int) { return -2.5f; });
-    EXPECT_TRUE(f.restUnchangedSince(std::vector<unsigned char>(f.spanBytes(), 0), 1));
-}
-
 // Long rows are filled a piece at a time (rows of 30000 and 60000 bytes), padded or
 // contiguous, at odd starts.
 TEST(SetPaths, LongRows)

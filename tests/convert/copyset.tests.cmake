@@ -10,3 +10,7 @@ if(TARGET kroi)
            COMMAND ${CMAKE_COMMAND} -DKROI=$<TARGET_FILE:kroi> -DWORK=${CMAKE_CURRENT_BINARY_DIR}/kroi_split_merge
                    -P ${CMAKE_CURRENT_SOURCE_DIR}/convert/kroi_copyset.cmake)
 endif()
+
+# Streaming paths, with the cache-size query answered by the test program itself.
+kroi_add_test(copyset_stream_test convert/copy_stream_test.cpp)
+set_target_properties(copyset_stream_test PROPERTIES ENABLE_EXPORTS ON)
