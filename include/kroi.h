@@ -334,8 +334,10 @@ void kroiFree(void* ptr);
  *
  * kroiCopy_<t>_<layout>R copies the source ROI into the destination ROI of the same size;
  * kroiSet_<t>_<layout>R fills the destination ROI with constants (C1R takes the value,
- * C3R and AC4R an array of three, C4R an array of four).  AC4 forms never read or write the
- * fourth (alpha) channel of the destination: it keeps its value.  The results are exact.
+ * C3R and AC4R an array of three, C4R an array of four).  AC4 forms leave the fourth
+ * (alpha) channel of the destination as it was: its value is neither used nor changed
+ * (rows are stored whole, with the alpha they held, so no other thread may write the
+ * alpha during the call).  The results are exact.
  *
  * Checks, in this order: a null pointer (pSrc, pDst, the value array, a mask, a plane
  * pointer array or any plane in it) gives kroStsNullPointerErr (-8); a width or height
@@ -346,12 +348,13 @@ void kroiFree(void* ptr);
  *
  * Whole copies (C1R, C3R, C4R, AC4R) need a source and a destination that do not overlap.
  * Contiguous images (both steps equal to the row's bytes, width and height below 32768)
- * are copied as one long row.  Copies of more than 1,048,576 bytes write with non-temporal
- * (cache-bypassing) stores, as do fills of more than 524,288 bytes that are at least as
- * large as the largest cache reported by kroGetMaxCacheSizeB (a failed query means
- * ordinary stores); either is followed by a store fence before the function returns, so
- * the caller's later stores are seen after the image.  A fill whose destination step equals
- * the row's bytes is done as one long row.
+ * are copied as one long row.  Copies of more than 1,048,576 bytes (of any type and
+ * layout) write with non-temporal (cache-bypassing) stores, as do fills of more than
+ * 524,288 bytes that are at least as large as the largest cache reported by
+ * kroGetMaxCacheSizeB (a failed query means ordinary stores); either is followed by a
+ * store fence before the function returns, so the caller's later stores are seen after
+ * the image.  AC4 forms, which store rows with the alpha they read, use ordinary stores.
+ * A fill whose destination step equals the row's bytes is done as one long row.
  */
 
 /* Whole copies. */
@@ -401,7 +404,7 @@ KroStatus kroiSet_32f_AC4R(const Kro32f value[3], Kro32f* pDst, int dstStep, Kro
 /* Masked copies and fills (MR): pixel x of row y is written where pMask's byte (x, y) is
  * non-zero (pMask, maskStep: an 8u image of the ROI's size); every other destination pixel
  * keeps its value.  Checks: pSrc (copy) or the value array (fills other than C1), pDst,
- * pMask null: -8; size: -6. */
+ * pMask null: -8; size: -6.  The mask's step is used as given, like the others. */
 KroStatus kroiCopy_8u_C1MR(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
 KroStatus kroiCopy_8u_C3MR(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
 KroStatus kroiCopy_8u_C4MR(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
@@ -455,7 +458,9 @@ KroStatus kroiSet_32f_AC4MR(const Kro32f value[3], Kro32f* pDst, int dstStep, Kr
  * one sign and at least the row's bytes, or a height of 1).  Otherwise the rows are
  * copied in row order, pixel by pixel.
  *
- * Fills of one channel (C3CR, C4CR): pDst points at the channel, which takes the value.
+ * Fills of one channel (C3CR, C4CR): pDst points at the channel, which takes the value;
+ * the other channels between the first and the last pixel's are stored with the values
+ * they held, as in AC4 forms.
  */
 KroStatus kroiCopy_8u_C3CR(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
 KroStatus kroiCopy_8u_C4CR(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
@@ -512,9 +517,12 @@ KroStatus kroiSet_32f_C4CR(Kro32f value, Kro32f* pDst, int dstStep, KroiSize roi
  * array of 3 or 4 plane pointers; the planes share one step (dstStep, or srcStep).  Checks:
  * a null interleaved pointer, plane array or plane: -8; size: -6.  The planes and the
  * interleaved image must not overlap.  When the planes' step equals the row's bytes of a
- * plane and the interleaved step is 3 or 4 times that, the image is handled as one row;
+ * plane and the interleaved step is 3 or 4 times that, the image is handled as one row.
  * P3C3R and P4C4R write with non-temporal stores (and fence) when the interleaved image
- * has more than 1,048,576 bytes.  One kernel serves every alignment.
+ * has more than 1,048,576 bytes; C3P3R and C4P4R when it has more than that and is at
+ * least as large as the largest cache (smaller planes stay in the cache for their reader).
+ * The kernels take any alignment; streaming into destinations that are not 16-byte
+ * aligned goes through a small buffer.
  */
 KroStatus kroiCopy_8u_C3P3R(const Kro8u* pSrc, int srcStep, Kro8u* const pDst[3], int dstStep, KroiSize roiSize);
 KroStatus kroiCopy_8u_P3C3R(const Kro8u* const pSrc[3], int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);

@@ -37,7 +37,7 @@ KroStatus copy(const T* pSrc, int srcStep, T* pDst, int dstStep, KroiSize roi)
         const stream::Pattern alpha = channelBytes<T, 4>(3);
         rows::each(
             roi.width, roi.height,
-            [&](const T* s, T* d, int w) { keepRow(bytes(s), bytes(d), std::size_t(w) * 4 * sizeof(T), alpha); },
+            [&](const T* s, T* d, int w) { keepRow<false>(bytes(s), bytes(d), std::size_t(w) * 4 * sizeof(T), alpha); },
             rows::image(pSrc, srcStep), rows::image(pDst, dstStep));
     } else {
         const std::size_t rowBytes = std::size_t(roi.width) * channels(L) * sizeof(T);
@@ -58,7 +58,7 @@ KroStatus copyVector(const T* s, T* d, int len)
     KROI_CHECK(check::pointers(s, d));
     KROI_CHECK(check::length(len));
     if constexpr (L == AC4)
-        keepRow(bytes(s), bytes(d), std::size_t(len) * 4 * sizeof(T), channelBytes<T, 4>(3));
+        keepRow<false>(bytes(s), bytes(d), std::size_t(len) * 4 * sizeof(T), channelBytes<T, 4>(3));
     else
         std::memcpy(d, s, std::size_t(len) * channels(L) * sizeof(T));
     return kroStsOk;

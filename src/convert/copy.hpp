@@ -18,8 +18,8 @@
 
 namespace KROI_TIER::convert {
 
-// Pixel layouts of the whole-image forms.  AC4 has four channels of which the fourth is
-// neither read nor written.
+// Pixel layouts of the whole-image forms.  AC4 has four channels of which the fourth keeps
+// its value.
 enum Layout { C1, C3, C4, AC4 };
 
 constexpr int channels(Layout l) { return l == C1 ? 1 : l == C3 ? 3 : 4; }
@@ -61,31 +61,19 @@ struct KeepBytes {
     }
 };
 
-// Row of n bytes from a source row s: d[i] = KeepBytes(s[i], d[i], keep[i mod 48]).
+// Row of n bytes: d[i] = KeepBytes(source byte, d[i], keep[i mod 48]), the source byte being
+// s[i] of a source row or, FromPattern, s[i mod 48] of a fill pattern's bytes.
+template <bool FromPattern>
 inline void keepRow(const unsigned char* s, unsigned char* d, std::size_t n, const stream::Pattern& keep)
 {
     const __m128i* k = reinterpret_cast<const __m128i*>(keep.bytes);
     std::size_t i = 0;
     for (int j = 0; i + 16 <= n; i += 16, j = j == 2 ? 0 : j + 1) {
-        const __m128i a = _mm_loadu_si128(reinterpret_cast<const __m128i*>(s + i));
+        const __m128i a = _mm_loadu_si128(reinterpret_cast<const __m128i*>(s + (FromPattern ? 16 * j : i)));
         const __m128i b = _mm_loadu_si128(reinterpret_cast<const __m128i*>(d + i));
         _mm_storeu_si128(reinterpret_cast<__m128i*>(d + i), KeepBytes::vec(a, b, _mm_load_si128(k + j)));
     }
-    for (; i < n; ++i) d[i] = KeepBytes::scalar(s[i], d[i], keep.bytes[i % 48]);
-}
-
-// Row of n bytes from a fill pattern: d[i] = KeepBytes(value[i mod 48], d[i], keep[i mod 48]).
-inline void keepFillRow(const stream::Pattern& value, unsigned char* d, std::size_t n, const stream::Pattern& keep)
-{
-    const __m128i* k = reinterpret_cast<const __m128i*>(keep.bytes);
-    const __m128i* v = reinterpret_cast<const __m128i*>(value.bytes);
-    std::size_t i = 0;
-    for (int j = 0; i + 16 <= n; i += 16, j = j == 2 ? 0 : j + 1) {
-        const __m128i b = _mm_loadu_si128(reinterpret_cast<const __m128i*>(d + i));
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(d + i),
-                         KeepBytes::vec(_mm_load_si128(v + j), b, _mm_load_si128(k + j)));
-    }
-    for (; i < n; ++i) d[i] = KeepBytes::scalar(value.bytes[i % 48], d[i], keep.bytes[i % 48]);
+    for (; i < n; ++i) d[i] = KeepBytes::scalar(s[FromPattern ? i % 48 : i], d[i], keep.bytes[i % 48]);
 }
 
 // Copies `height` rows of `rowBytes` bytes, with non-temporal stores when `streaming` (and

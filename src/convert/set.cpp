@@ -68,7 +68,7 @@ void fillRows(unsigned char* d, std::ptrdiff_t step, std::size_t rowBytes, int h
 void fillKeepRows(unsigned char* d, std::ptrdiff_t step, std::size_t n, int height, const stream::Pattern& value,
                   const stream::Pattern& keep)
 {
-    for (int y = 0; y < height; ++y) keepFillRow(value, d + y * step, n, keep);
+    for (int y = 0; y < height; ++y) keepRow<true>(value.bytes, d + y * step, n, keep);
 }
 
 // C1 takes its value, the other layouts an array of written(L) values.

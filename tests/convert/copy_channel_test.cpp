@@ -10,6 +10,7 @@
 #include "kroi.h"
 #include "support/compare.hpp"
 #include "support/random.hpp"
+#include "convert/copyset_shapes.hpp"
 
 namespace {
 
@@ -115,8 +116,8 @@ TYPED_TEST(Channels, CopyMatchesRule)
                 for (int cd = 0; cd < firstChannels(m.DC, m.K); ++cd)
                     for (Guard g : {Guard::After, Guard::Before}) {
                         const int off = (w + cs + cd) % 16;
-                        Guarded<T> src(Shape{w, 3, m.SC, 7, g == Guard::After ? Guard::Before : Guard::After, off});
-                        Guarded<T> dst(Shape{w, 3, m.DC, w % 2 ? 0 : 11, g, off ^ 5});
+                        Guarded<T> src(kt::typed<T>(Shape{w, 3, m.SC, 7, g == Guard::After ? Guard::Before : Guard::After, off}));
+                        Guarded<T> dst(kt::typed<T>(Shape{w, 3, m.DC, w % 2 ? 0 : 11, g, off ^ 5}));
                         kt::fillRandom(src, rng);
                         kt::fillRandom(dst, rng);
                         Guarded<T> old(Shape{w, 3, m.DC});
@@ -138,7 +139,7 @@ TYPED_TEST(Channels, SetMatchesRule)
         for (int w : {1, 2, 5, 16, 17, 33, 67})
             for (int cd = 0; cd < m.C; ++cd)
                 for (Guard g : {Guard::After, Guard::Before}) {
-                    Guarded<T> dst(Shape{w, 3, m.C, 5, g, (w + cd) % 16});
+                    Guarded<T> dst(kt::typed<T>(Shape{w, 3, m.C, 5, g, (w + cd) % 16}));
                     kt::fillRandom(dst, rng);
                     Guarded<T> old(Shape{w, 3, m.C});
                     old.forEach([&](int x, int y, int c, T& e) { e = dst.at(x, y, c); });

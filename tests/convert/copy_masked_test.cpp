@@ -9,6 +9,7 @@
 #include "kroi.h"
 #include "support/compare.hpp"
 #include "support/random.hpp"
+#include "convert/copyset_shapes.hpp"
 
 namespace {
 
@@ -137,7 +138,8 @@ TYPED_TEST(Masked, CopyMatchesRule)
     for (const auto& m : maskedCopies<T>())
         for (const Case& k : cases(m.channels)) {
             const Shape& sh = k.dst;
-            Guarded<T> src(Shape{sh.width, sh.height, m.channels, 5, Guard::Before, sh.offset ^ 7}), dst(sh);
+            Guarded<T> src(kt::typed<T>(Shape{sh.width, sh.height, m.channels, 5, Guard::Before, sh.offset ^ 7}));
+            Guarded<T> dst(kt::typed<T>(sh));
             Guarded<Kro8u> mask(Shape{sh.width, sh.height, 1, 3, Guard::After});
             kt::fillRandom(src, rng);
             kt::fillRandom(dst, rng);
@@ -164,7 +166,7 @@ TYPED_TEST(Masked, SetMatchesRule)
     for (const auto& m : maskedSets<T>())
         for (const Case& k : cases(m.channels)) {
             const Shape& sh = k.dst;
-            Guarded<T> dst(sh);
+            Guarded<T> dst(kt::typed<T>(sh));
             Guarded<Kro8u> mask(Shape{sh.width, sh.height, 1, 0, Guard::Before, sh.offset});
             kt::fillRandom(dst, rng);
             fillMask(mask, rng, k.kind);

@@ -10,6 +10,7 @@
 #include "kroi.h"
 #include "support/compare.hpp"
 #include "support/random.hpp"
+#include "convert/copyset_shapes.hpp"
 
 namespace {
 
@@ -63,9 +64,9 @@ TYPED_TEST_SUITE(Planar, Types);
 template <class T>
 void expectPlanarRule(const PlanarMember<T>& m, kt::Rng& rng, const Shape& inter, const Shape& plane)
 {
-    Guarded<T> im(inter);
+    Guarded<T> im(kt::typed<T>(inter));
     std::vector<std::unique_ptr<Guarded<T>>> planes;
-    for (int c = 0; c < m.C; ++c) planes.push_back(std::make_unique<Guarded<T>>(plane));
+    for (int c = 0; c < m.C; ++c) planes.push_back(std::make_unique<Guarded<T>>(kt::typed<T>(plane)));
     kt::fillRandom(im, rng);
     for (auto& p : planes) kt::fillRandom(*p, rng);
     T* ptrs[4];

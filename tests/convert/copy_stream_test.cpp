@@ -10,6 +10,7 @@
 #include "kroi.h"
 #include "support/compare.hpp"
 #include "support/random.hpp"
+#include "convert/copyset_shapes.hpp"
 
 namespace {
 int g_cacheBytes = 64 << 10;  // 0 or less: the query fails
@@ -35,7 +36,7 @@ TEST(CopySetStreaming, SetAtEveryCacheAnswer)
     for (int cache : {64 << 10, 0, 1 << 30})
         for (int off : {0, 7}) {
             g_cacheBytes = cache;
-            Guarded<Kro16u> d(Shape{701, 140, 3, 10, Guard::Before, off});  // 589 KB of pixels
+            Guarded<Kro16u> d(kt::typed<Kro16u>(Shape{701, 140, 3, 10, Guard::Before, off}));  // 589 KB of pixels
             d.fillBytes(0);
             const Kro16u v[3] = {1, 65535, 258};
             ASSERT_EQ(kroiSet_16u_C3R(v, d.ptr(), d.step(), {701, 140}), kroStsOk);
@@ -53,9 +54,10 @@ TEST(CopySetStreaming, SetAtEveryCacheAnswer)
 template <class T>
 void expectPlanarRoundTrip(kt::Rng& rng, int width, int height, int planePad, int interOffset)
 {
-    Guarded<T> src(Shape{width, height, 3, 0, Guard::Before, interOffset}), back(Shape{width, height, 3, 0, Guard::Before, interOffset});
-    Guarded<T> p0(Shape{width, height, 1, planePad, Guard::Before}), p1(Shape{width, height, 1, planePad, Guard::Before}),
-        p2(Shape{width, height, 1, planePad, Guard::Before});
+    const Shape inter = kt::typed<T>(Shape{width, height, 3, 0, Guard::Before, interOffset});
+    Guarded<T> src(inter), back(inter);
+    const Shape plane = kt::typed<T>(Shape{width, height, 1, planePad, Guard::Before});
+    Guarded<T> p0(plane), p1(plane), p2(plane);
     kt::fillRandom(src, rng);
     T* const planes[3] = {p0.ptr(), p1.ptr(), p2.ptr()};
     const T* const cplanes[3] = {p0.ptr(), p1.ptr(), p2.ptr()};

@@ -13,6 +13,7 @@
 #include "kroi.h"
 #include "support/compare.hpp"
 #include "support/random.hpp"
+#include "convert/copyset_shapes.hpp"
 
 namespace {
 
@@ -176,7 +177,7 @@ TYPED_TEST(CopySet, CopyMatchesRule)
             Shape srcShape = sh;
             srcShape.guard = sh.guard == Guard::After ? Guard::Before : Guard::After;  // guards on both sides
             srcShape.padBytes = sh.padBytes ? 7 : 0;
-            Guarded<T> src(srcShape), dst(sh);
+            Guarded<T> src(kt::typed<T>(srcShape)), dst(kt::typed<T>(sh));
             kt::fillRandom(src, rng);
             kt::fillRandom(dst, rng);
             const auto before = dst.snapshot();
@@ -193,7 +194,7 @@ TYPED_TEST(CopySet, SetMatchesRule)
     auto rng = kt::rngForTest();
     for (const auto& m : sets<T>())
         for (const Shape& sh : shapes(m.channels)) {
-            Guarded<T> dst(sh);
+            Guarded<T> dst(kt::typed<T>(sh));
             kt::fillRandom(dst, rng);
             const auto before = dst.snapshot();
             T value[4];
@@ -246,7 +247,7 @@ TEST(CopyPaths, MergedRowAndStreaming)
             dst.fillBytes(0);
             ASSERT_EQ(kroiCopy_8u_C1R(src.ptr(), src.step(), dst.ptr(), dst.step(), roi), kroStsOk);
             EXPECT_IMAGE_EQ(dst, std::as_const(src)) << roi.width << " x " << roi.height;
-            Guarded<Kro32f> s3(Shape{roi.width / 3, roi.height, 3, 4, Guard::Before, off}), d3(roi.width / 3, roi.height, 3);
+            Guarded<Kro32f> s3(kt::typed<Kro32f>(Shape{roi.width / 3, roi.height, 3, 4, Guard::Before, off})), d3(roi.width / 3, roi.height, 3);
             kt::fillRandom(s3, rng);
             ASSERT_EQ(kroiCopy_32f_C3R(s3.ptr(), s3.step(), d3.ptr(), d3.step(), {roi.width / 3, roi.height}), kroStsOk);
             EXPECT_IMAGE_EQ(d3, std::as_const(s3));
@@ -291,7 +292,7 @@ TYPED_TEST(CopySet, LongFormMatchesNarrow)
     for (const auto& m : longs<T>())
         for (const Shape& sh : {Shape{1, 1, m.channels}, Shape{37, 3, m.channels, 5, Guard::Before, 3},
                                 Shape{64, 2, m.channels, 0, Guard::After, 0, true}}) {
-            Guarded<T> src(sh), a(sh), b(sh);
+            Guarded<T> src(kt::typed<T>(sh)), a(kt::typed<T>(sh)), b(kt::typed<T>(sh));
             kt::fillRandom(src, rng);
             kt::fillRandom(a, rng);
             std::memcpy(b.lowest(), a.lowest(), a.spanBytes());
