@@ -33,17 +33,18 @@ inline unsigned char* bytes(T* p) { return reinterpret_cast<unsigned char*>(p); 
 
 // The pattern of a pixel of C elements of type T whose element `channel` is all ones and
 // the others zero: with it, the row kernels below write one channel, or (with channel 3 of
-// four) keep the alpha channel.
+// four) keep the alpha channel.  Constant-evaluable, so that kernels can hold it as a table.
 template <class T, int C>
-inline stream::Pattern channelBytes(int channel)
+constexpr stream::Pattern channelBytes(int channel)
 {
-    T px[C] = {};
-    std::memset(&px[channel], 0xFF, sizeof(T));
-    return stream::Pattern::of(px, sizeof px);
+    stream::Pattern p{};
+    for (int i = 0; i < int(sizeof p.bytes); ++i)
+        p.bytes[i] = (i % (C * int(sizeof(T)))) / int(sizeof(T)) == channel ? 0xFF : 0;
+    return p;
 }
 // The complement: ones everywhere except on `channel`.
 template <class T, int C>
-inline stream::Pattern otherBytes(int channel)
+constexpr stream::Pattern otherBytes(int channel)
 {
     stream::Pattern p = channelBytes<T, C>(channel);
     for (unsigned char& b : p.bytes) b = static_cast<unsigned char>(~b);

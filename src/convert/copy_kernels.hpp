@@ -51,7 +51,8 @@ struct ChannelMap {
     // One channel to the same channel: the row's bytes, the other channels kept.
     static void rowSameStride(const T* s, T* d, int w)
     {
-        keepRow<false>(bytes(s), bytes(d), span(DP, w) * sizeof(T), otherBytes<T, DP>(0));
+        static constexpr stream::Pattern kKeep = otherBytes<T, DP>(0);
+        keepRow<false>(bytes(s), bytes(d), span(DP, w) * sizeof(T), kKeep);
     }
     static void rowExtract8u_sse41(const T* s, T* d, int w) { extract3_8u_sse41(s, d, w); }
 
