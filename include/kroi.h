@@ -330,6 +330,251 @@ void kroiFree(void* ptr);
  * Copy and Set
  * ======================================================================================= */
 /* section COPYSET */
+/* Copy and Set, for 8u, 16u, 16s, 32s and 32f.
+ *
+ * kroiCopy_<t>_<layout>R copies the source ROI into the destination ROI of the same size;
+ * kroiSet_<t>_<layout>R fills the destination ROI with constants (C1R takes the value,
+ * C3R and AC4R an array of three, C4R an array of four).  AC4 forms leave the fourth
+ * (alpha) channel of the destination as it was: its value is neither used nor changed
+ * (rows are stored whole, with the alpha they held, so no other thread may write the
+ * alpha during the call).  The results are exact.
+ *
+ * Checks, in this order: a null pointer (pSrc, pDst, the value array, a mask, a plane
+ * pointer array or any plane in it) gives kroStsNullPointerErr (-8); a width or height
+ * below 1 gives kroStsBadSizeErr (-6).  Steps are not checked and are used as given
+ * (negative steps walk bottom-up; a destination step of 0 writes the same row again, the
+ * last row's values winning).  Copy and Set return only 0, -8 and -6; the _L copies also
+ * return the status of their one-dimensional row copy.  An error writes nothing.
+ *
+ * Whole copies (C1R, C3R, C4R, AC4R) need a source and a destination that do not overlap.
+ * Contiguous images (both steps equal to the row's bytes, width and height below 32768)
+ * are copied as one long row.  Copies of more than 1,048,576 bytes (of any type and
+ * layout) write with non-temporal (cache-bypassing) stores, as do fills of more than
+ * 524,288 bytes that are at least as large as the largest cache reported by
+ * kroGetMaxCacheSizeB (a failed query means ordinary stores); either is followed by a
+ * store fence before the function returns, so the caller's later stores are seen after
+ * the image.  AC4 forms, which store rows with the alpha they read, use ordinary stores.
+ * A fill whose destination step equals the row's bytes is done as one long row.
+ */
+
+/* Whole copies. */
+KroStatus kroiCopy_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32s_C1R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32s_C3R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32s_C4R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32s_AC4R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+
+/* Whole fills. */
+KroStatus kroiSet_8u_C1R(Kro8u value, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_8u_C3R(const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_8u_C4R(const Kro8u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_8u_AC4R(const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_16u_C1R(Kro16u value, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_16u_C3R(const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_16u_C4R(const Kro16u value[4], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_16u_AC4R(const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_16s_C1R(Kro16s value, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_16s_C3R(const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_16s_C4R(const Kro16s value[4], Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_16s_AC4R(const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_32s_C1R(Kro32s value, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_32s_C3R(const Kro32s value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_32s_C4R(const Kro32s value[4], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_32s_AC4R(const Kro32s value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_32f_C1R(Kro32f value, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_32f_C3R(const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_32f_C4R(const Kro32f value[4], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_32f_AC4R(const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize);
+
+/* Masked copies and fills (MR): pixel x of row y is written where pMask's byte (x, y) is
+ * non-zero (pMask, maskStep: an 8u image of the ROI's size); every other destination pixel
+ * keeps its value.  Checks: pSrc (copy) or the value array (fills other than C1), pDst,
+ * pMask null: -8; size: -6.  The mask's step is used as given, like the others. */
+KroStatus kroiCopy_8u_C1MR(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_8u_C3MR(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_8u_C4MR(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_8u_AC4MR(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_16u_C1MR(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_16u_C3MR(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_16u_C4MR(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_16u_AC4MR(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_16s_C1MR(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_16s_C3MR(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_16s_C4MR(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_16s_AC4MR(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_32s_C1MR(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_32s_C3MR(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_32s_C4MR(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_32s_AC4MR(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_32f_C1MR(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_32f_C3MR(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_32f_C4MR(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiCopy_32f_AC4MR(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_8u_C1MR(Kro8u value, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_8u_C3MR(const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_8u_C4MR(const Kro8u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_8u_AC4MR(const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_16u_C1MR(Kro16u value, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_16u_C3MR(const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_16u_C4MR(const Kro16u value[4], Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_16u_AC4MR(const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_16s_C1MR(Kro16s value, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_16s_C3MR(const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_16s_C4MR(const Kro16s value[4], Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_16s_AC4MR(const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_32s_C1MR(Kro32s value, Kro32s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_32s_C3MR(const Kro32s value[3], Kro32s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_32s_C4MR(const Kro32s value[4], Kro32s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_32s_AC4MR(const Kro32s value[3], Kro32s* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_32f_C1MR(Kro32f value, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_32f_C3MR(const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_32f_C4MR(const Kro32f value[4], Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+KroStatus kroiSet_32f_AC4MR(const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro8u* pMask, int maskStep);
+
+/* Channel copies.  C3CR and C4CR copy one channel into the same or another channel of
+ * another image (both pointers at the chosen channel of the first pixel); C3C1R and C4C1R
+ * copy one channel (pSrc at that channel) into a one-channel image; C1C3R and C1C4R copy a
+ * one-channel image into one channel (pDst at that channel), the other channels keeping
+ * their values; C3AC4R copies three channels into the first three of four (the fourth
+ * keeps its value) and AC4C3R the first three of four into three.  A row spans from the
+ * first pixel's element to the last pixel's on each side; nothing outside is touched.
+ * Source and destination may share memory: the result is then that of separate buffers,
+ * provided the rows of each image follow one another without overlapping (both steps of
+ * one sign and at least the row's bytes, or a height of 1).  Otherwise the rows are
+ * copied in row order, pixel by pixel.
+ *
+ * Fills of one channel (C3CR, C4CR): pDst points at the channel, which takes the value;
+ * the other channels between the first and the last pixel's are stored with the values
+ * they held, as in AC4 forms.
+ */
+KroStatus kroiCopy_8u_C3CR(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_8u_C4CR(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_8u_C3C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_8u_C4C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_8u_C1C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_8u_C1C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_8u_C3AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_8u_AC4C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16u_C3CR(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16u_C4CR(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16u_C3C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16u_C4C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16u_C1C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16u_C1C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16u_C3AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16u_AC4C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16s_C3CR(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16s_C4CR(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16s_C3C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16s_C4C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16s_C1C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16s_C1C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16s_C3AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16s_AC4C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32s_C3CR(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32s_C4CR(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32s_C3C1R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32s_C4C1R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32s_C1C3R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32s_C1C4R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32s_C3AC4R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32s_AC4C3R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32f_C3CR(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32f_C4CR(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32f_C3C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32f_C4C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32f_C1C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32f_C1C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32f_C3AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32f_AC4C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_8u_C3CR(Kro8u value, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_8u_C4CR(Kro8u value, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_16u_C3CR(Kro16u value, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_16u_C4CR(Kro16u value, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_16s_C3CR(Kro16s value, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_16s_C4CR(Kro16s value, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_32s_C3CR(Kro32s value, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_32s_C4CR(Kro32s value, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_32f_C3CR(Kro32f value, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSet_32f_C4CR(Kro32f value, Kro32f* pDst, int dstStep, KroiSize roiSize);
+
+/* Interleaved to planar (C3P3R, C4P4R) and back (P3C3R, P4C4R).  The planar side is an
+ * array of 3 or 4 plane pointers; the planes share one step (dstStep, or srcStep).  Checks:
+ * a null interleaved pointer, plane array or plane: -8; size: -6.  The planes and the
+ * interleaved image must not overlap.  When the planes' step equals the row's bytes of a
+ * plane and the interleaved step is 3 or 4 times that, the image is handled as one row.
+ * P3C3R and P4C4R write with non-temporal stores (and fence) when the interleaved image
+ * has more than 1,048,576 bytes; C3P3R and C4P4R when it has more than that and is at
+ * least as large as the largest cache (smaller planes stay in the cache for their reader).
+ * The kernels take any alignment; streaming into destinations that are not 16-byte
+ * aligned goes through a small buffer.
+ */
+KroStatus kroiCopy_8u_C3P3R(const Kro8u* pSrc, int srcStep, Kro8u* const pDst[3], int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_8u_P3C3R(const Kro8u* const pSrc[3], int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_8u_C4P4R(const Kro8u* pSrc, int srcStep, Kro8u* const pDst[4], int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_8u_P4C4R(const Kro8u* const pSrc[4], int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16u_C3P3R(const Kro16u* pSrc, int srcStep, Kro16u* const pDst[3], int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16u_P3C3R(const Kro16u* const pSrc[3], int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16u_C4P4R(const Kro16u* pSrc, int srcStep, Kro16u* const pDst[4], int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16u_P4C4R(const Kro16u* const pSrc[4], int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16s_C3P3R(const Kro16s* pSrc, int srcStep, Kro16s* const pDst[3], int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16s_P3C3R(const Kro16s* const pSrc[3], int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16s_C4P4R(const Kro16s* pSrc, int srcStep, Kro16s* const pDst[4], int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_16s_P4C4R(const Kro16s* const pSrc[4], int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32s_C3P3R(const Kro32s* pSrc, int srcStep, Kro32s* const pDst[3], int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32s_P3C3R(const Kro32s* const pSrc[3], int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32s_C4P4R(const Kro32s* pSrc, int srcStep, Kro32s* const pDst[4], int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32s_P4C4R(const Kro32s* const pSrc[4], int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32f_C3P3R(const Kro32f* pSrc, int srcStep, Kro32f* const pDst[3], int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32f_P3C3R(const Kro32f* const pSrc[3], int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32f_C4P4R(const Kro32f* pSrc, int srcStep, Kro32f* const pDst[4], int dstStep, KroiSize roiSize);
+KroStatus kroiCopy_32f_P4C4R(const Kro32f* const pSrc[4], int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+
+/* 64-bit copies (_L): pointers (-8), then width or height below 1 (-6), then each row is
+ * copied in pieces of at most 0x40000000 elements by the one-dimensional copy, whose
+ * status (0) is returned.  They never forward to the 32-bit forms and use ordinary stores.
+ */
+KroStatus kroiCopy_8u_C1R_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiCopy_8u_C3R_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiCopy_8u_C4R_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiCopy_8u_AC4R_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiCopy_16u_C1R_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiCopy_16u_C3R_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiCopy_16u_C4R_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiCopy_16u_AC4R_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiCopy_16s_C1R_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiCopy_16s_C3R_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiCopy_16s_C4R_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiCopy_16s_AC4R_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiCopy_32s_C1R_L(const Kro32s* pSrc, int64_t srcStep, Kro32s* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiCopy_32s_C3R_L(const Kro32s* pSrc, int64_t srcStep, Kro32s* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiCopy_32s_C4R_L(const Kro32s* pSrc, int64_t srcStep, Kro32s* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiCopy_32s_AC4R_L(const Kro32s* pSrc, int64_t srcStep, Kro32s* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiCopy_32f_C1R_L(const Kro32f* pSrc, int64_t srcStep, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiCopy_32f_C3R_L(const Kro32f* pSrc, int64_t srcStep, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiCopy_32f_C4R_L(const Kro32f* pSrc, int64_t srcStep, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiCopy_32f_AC4R_L(const Kro32f* pSrc, int64_t srcStep, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+
+/* kroiCopyManaged_8u_C1R: the 8u C1 copy with a choice of stores.  Bit 0 of flags (1)
+ * writes with non-temporal stores, followed by a store fence before return; with bit 0
+ * clear the copy uses ordinary stores whatever its size.  Other bits are ignored.  When
+ * both steps equal the width the ROI is copied as one row. */
+KroStatus kroiCopyManaged_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int flags);
 
 /* end of section COPYSET */
 

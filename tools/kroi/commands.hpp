@@ -19,6 +19,8 @@ int runPngRoundtrip(const Args& args); // roundtrip.cpp
 
 // The families' handlers, each in tools/kroi/<family>.cpp.
 // section COPYSET
+int runSplit(const Args& args); // copyset.cpp
+int runMerge(const Args& args); // copyset.cpp
 // end of section COPYSET
 // section ARITH
 // end of section ARITH

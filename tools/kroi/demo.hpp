@@ -97,6 +97,11 @@ std::span<const DemoEntry> demoEntries();
 
 // The families' entry functions, each in tools/kroi/demo_<family>.cpp.
 // section COPYSET
+Image demoSetMasked(DemoContext& ctx);
+Image demoCopyMasked(DemoContext& ctx);
+Image demoExtractGreen(DemoContext& ctx);
+Image demoClearBlue(DemoContext& ctx);
+Image demoPlanesSwapped(DemoContext& ctx);
 // end of section COPYSET
 // section ARITH
 // end of section ARITH

@@ -109,6 +109,14 @@ constexpr DemoEntry kEntries[] = {
     {"alloc-8u-c1", "p = kroiMalloc_8u_C1(512, 384, &step); kroiFree(p)", gray8u},
     {"alloc-16u-c2", "p = kroiMalloc_16u_C2(512, 384, &step); kroiFree(p)", grayAlpha16u},
     // section COPYSET
+    {"set-8u-c3-masked", "kroiSet_8u_C3MR(orange, dst, dstStep, {512, 384}, ring, ringStep)", demoSetMasked},
+    {"copy-8u-c3-masked", "kroiCopy_8u_C3MR(src2, src2Step, dst, dstStep, {512, 384}, ring, ringStep)", demoCopyMasked},
+    {"copy-8u-c3c1-green", "kroiCopy_8u_C3C1R(src + 1, srcStep, dst, dstStep, {512, 384})", demoExtractGreen},
+    {"set-8u-c3c-blue", "kroiSet_8u_C3CR(0, dst + 2, dstStep, {512, 384})", demoClearBlue},
+    {"copy-8u-planes-swapped",
+     "kroiCopy_8u_C3P3R(src, srcStep, planes, planeStep, {512, 384});\n"
+     "kroiCopy_8u_P3C3R((planes[2], planes[1], planes[0]), planeStep, dst, dstStep, {512, 384})",
+     demoPlanesSwapped},
     // end of section COPYSET
     // section ARITH
     // end of section ARITH

@@ -32,6 +32,14 @@ constexpr Command kCommands[] = {
      runDemo},
     // The families' commands, one block each.
     // section COPYSET
+    {"split",
+     "kroi split IN.png PREFIX\n"
+     "    write each channel of an RGB or RGBA image as a gray PNG, PREFIX-0.png, PREFIX-1.png, ...",
+     runSplit},
+    {"merge",
+     "kroi merge OUT.png IN0.png IN1.png IN2.png [IN3.png]\n"
+     "    interleave three or four gray PNGs of one size and depth into an RGB or RGBA PNG",
+     runMerge},
     // end of section COPYSET
     // section ARITH
     // end of section ARITH
