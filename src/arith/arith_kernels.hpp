@@ -90,6 +90,7 @@ struct Simd {
     static constexpr int kLanes = 16 / int(sizeof(T));
     static Vec load(const T* p) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p)); }
     static void store(T* p, Vec v) { _mm_storeu_si128(reinterpret_cast<__m128i*>(p), v); }
+    static void stream(T* p, Vec v) { _mm_stream_si128(reinterpret_cast<__m128i*>(p), v); } // p aligned
     static Vec set1(T v)
     {
         if constexpr (sizeof(T) == 1) return _mm_set1_epi8(static_cast<char>(v));
@@ -123,6 +124,7 @@ struct Simd<Kro32f> {
     static constexpr int kLanes = 4;
     static Vec load(const Kro32f* p) { return _mm_loadu_ps(p); }
     static void store(Kro32f* p, Vec v) { _mm_storeu_ps(p, v); }
+    static void stream(Kro32f* p, Vec v) { _mm_stream_ps(p, v); } // p aligned
     static Vec set1(Kro32f v) { return _mm_set1_ps(v); }
     static Vec alphaLanes() { return _mm_castsi128_ps(_mm_set_epi32(-1, 0, 0, 0)); }
     static Vec zeroLanes(Vec v) { return _mm_cmpeq_ps(v, _mm_setzero_ps()); }
@@ -142,6 +144,7 @@ struct Simd<Kro32f> {
 template <class T>
 struct RowView {
     static constexpr int kPeriod = 1;
+    static constexpr int kImages = 1;
     const T* p;
     T at(long i) const { return p[i]; }
     template <int k>
@@ -163,6 +166,7 @@ struct ImageOperand {
 template <class T, Layout L>
 struct ConstOperand {
     static constexpr int kPeriod = L == kC3 ? 3 : 1;
+    static constexpr int kImages = 0;
     static constexpr int kE = kElems<L>;
     using S = Simd<T>;
     T v[kE];
@@ -480,8 +484,9 @@ struct DivRecip8u {
     static constexpr bool kDivides = true;
     static constexpr bool kMergeRows = false;
     float scale = 1.0f; // 2^-s, exact
+    bool scaled = false; // s != 0; times 1 is exact, so it is left out
 
-    explicit DivRecip8u(int s) { scale = std::ldexp(1.0f, -s); }
+    explicit DivRecip8u(int s) : scale(std::ldexp(1.0f, -s)), scaled(s != 0) {}
 
     Kro8u scalar(Kro8u x, Kro8u y) const
     {
@@ -490,12 +495,13 @@ struct DivRecip8u {
         return saturateIntegral<Kro8u>(roundHalfEven(q));
     }
 
-    static __m128 quotient(__m128i x32, __m128i y32, __m128 scale)
+    __m128 quotient(__m128i x32, __m128i y32, __m128 sc) const
     {
         const __m128 fy = _mm_cvtepi32_ps(y32), fx = _mm_cvtepi32_ps(x32);
         const __m128 r0 = _mm_rcp_ps(fy);
         const __m128 r1 = _mm_mul_ps(r0, _mm_sub_ps(_mm_set1_ps(2.0f), _mm_mul_ps(fy, r0)));
-        return _mm_mul_ps(_mm_mul_ps(fx, r1), scale);
+        const __m128 q = _mm_mul_ps(fx, r1);
+        return scaled ? _mm_mul_ps(q, sc) : q;
     }
 
     Vec vec(Vec x, Vec y) const
@@ -537,8 +543,9 @@ struct DivBound8u {
 // ---- the row loop ----------------------------------------------------------------------------------
 
 // d[i] = op(x[i], y[i]) over `width` pixels of layout L; returns whether a right operand was
-// zero for an element written by an operation that divides.
-template <Layout L, class Op, class X, class Y, class T>
+// zero for an element written by an operation that divides.  kStream: d is 16-byte aligned
+// and the vectors are written with non-temporal stores (the caller fences).
+template <Layout L, bool kStream = false, class Op, class X, class Y, class T>
 bool rowLoop(const Op& op, const X& x, const Y& y, T* d, long width)
 {
     using S = Simd<T>;
@@ -558,7 +565,8 @@ bool rowLoop(const Op& op, const X& x, const Y& y, T* d, long width)
                 if constexpr (L == kAC4) zeros = S::orV(zeros, S::andNot(alpha, S::zeroLanes(vy)));
                 else zeros = S::orV(zeros, S::zeroLanes(vy));
             }
-            S::store(d + i, r);
+            if constexpr (kStream) S::stream(d + i, r);
+            else S::store(d + i, r);
             i += kLanes;
         };
         for (; i + kPeriod * kLanes <= n;) {
@@ -600,6 +608,17 @@ Job<T, X, Y> job(X x, Y y, T* d, std::ptrdiff_t dStep, int width, int height)
     return {x, y, d, dStep, width, height};
 }
 
+// Whether a call whose images span `bytes` in all writes its destination with non-temporal
+// stores: only when they do not fit the largest cache, where a store that first reads its
+// line would add a third to the memory traffic, and when every destination row starts on
+// 16 bytes.
+inline bool streams(std::ptrdiff_t bytes, const void* d, std::ptrdiff_t dStep)
+{
+    int cache = 0;
+    if (kroGetMaxCacheSizeB(&cache) != kroStsOk || cache <= 0 || bytes < cache) return false;
+    return ((reinterpret_cast<std::uintptr_t>(d) | static_cast<std::uintptr_t>(dStep)) & 15) == 0;
+}
+
 // Every row of the job; rows that lie end to end in every image are done as one.  Returns
 // whether a zero divisor was met.
 template <Layout L, class Op, class T, class X, class Y>
@@ -607,13 +626,24 @@ bool runRows(const Op& op, const Job<T, X, Y>& j)
 {
     const std::ptrdiff_t rowBytes = std::ptrdiff_t(j.width) * kElems<L> * std::ptrdiff_t(sizeof(T));
     rows::Image<T> dst{j.d, j.dStep};
-    if (Op::kMergeRows && j.height > 1 && j.x.merges(rowBytes) && j.y.merges(rowBytes) &&
-        rows::merged(rowBytes, dst))
-        return rowLoop<L>(op, j.x.row(0), j.y.row(0), j.d, long(j.width) * j.height);
-    bool zero = false;
-    for (int yy = 0; yy < j.height; ++yy)
-        zero |= rowLoop<L>(op, j.x.row(yy), j.y.row(yy), dst.row(yy), j.width);
-    return zero;
+    const bool merge = Op::kMergeRows && j.height > 1 && j.x.merges(rowBytes) && j.y.merges(rowBytes) &&
+                       rows::merged(rowBytes, dst);
+    const std::ptrdiff_t step = merge ? 0 : j.dStep;
+    auto all = [&]<bool kStream>(std::bool_constant<kStream>) {
+        if (merge) return rowLoop<L, kStream>(op, j.x.row(0), j.y.row(0), j.d, long(j.width) * j.height);
+        bool zero = false;
+        for (int yy = 0; yy < j.height; ++yy)
+            zero |= rowLoop<L, kStream>(op, j.x.row(yy), j.y.row(yy), dst.row(yy), j.width);
+        return zero;
+    };
+    constexpr int kImages = 1 + std::remove_cvref_t<decltype(j.x.row(0))>::kImages +
+                            std::remove_cvref_t<decltype(j.y.row(0))>::kImages;
+    if (Op::kVector && streams(rowBytes * j.height * kImages, j.d, step)) {
+        const bool zero = all(std::true_type{});
+        _mm_sfence(); // the caller's later stores land after the image
+        return zero;
+    }
+    return all(std::false_type{});
 }
 
 // ---- kernel choice by scale factor -----------------------------------------------------------------

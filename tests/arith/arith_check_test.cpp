@@ -1,6 +1,8 @@
 // Argument checks of every member: the order of the checks, nothing written on an error, the
 // step checks that only Div and Div_Round make, the rounding-mode check, and the 16u Add and
 // Sub fills that check the sources only.  Then a few worked values of the rule.
+#include <algorithm>
+
 #include "arith/arith_members.hpp"
 
 namespace arith_test {
@@ -147,6 +149,40 @@ TEST(ArithRule, WorkedValues)
     Kro32f fz = 0.0f, fn = 1.0f, fq = 0.0f;
     EXPECT_EQ(kroiDiv_32f_C1R(&fz, 4, &fn, 4, &fq, 4, {1, 1}), kroStsZeroDivisorWarn);
     EXPECT_TRUE(std::isinf(fq) && fq > 0);
+}
+
+}  // namespace
+}  // namespace arith_test
+
+namespace arith_test {
+namespace {
+
+// Images beyond the largest cache are written with non-temporal stores: the results are the
+// same, and an AC4 destination keeps its fourth channel there too.
+TEST(ArithRule, ImagesBeyondTheCache)
+{
+    int cache = 0;
+    ASSERT_EQ(kroGetMaxCacheSizeB(&cache), kroStsOk);
+    const int64_t perImage = std::min<int64_t>(cache, int64_t{48} << 20) / 2 + 4096;
+    const int width = 1024, height = int(perImage / (4 * width)) + 1;
+    int step = 0;
+    Kro8u* a = kroiMalloc_8u_C4(width, height, &step);
+    Kro8u* b = kroiMalloc_8u_C4(width, height, &step);
+    Kro8u* d = kroiMalloc_8u_C4(width, height, &step);
+    ASSERT_TRUE(a && b && d);
+    const std::size_t n = std::size_t(step) * height;
+    for (std::size_t i = 0; i < n; ++i) a[i] = Kro8u(i * 7 + (i >> 9)), b[i] = Kro8u(i * 13 + (i >> 11)), d[i] = 0xA5;
+    EXPECT_EQ(kroiMul_8u_AC4RSfs(a, step, b, step, d, step, {width, height}, 3), kroStsOk);
+    std::size_t bad = 0;
+    for (std::size_t i = 0; i < n; ++i)
+        bad += d[i] != (i % 4 == 3 ? 0xA5 : kt::ref::scaleSaturate<Kro8u>(int(a[i]) * b[i], 3));
+    EXPECT_EQ(bad, 0u);
+    EXPECT_EQ(kroiAdd_8u_C1RSfs(a, step, b, step, d, step, {4 * width, height}, 0), kroStsOk);
+    for (std::size_t i = 0; i < n; ++i) bad += d[i] != std::min(255, a[i] + b[i]);
+    EXPECT_EQ(bad, 0u);
+    kroiFree(a);
+    kroiFree(b);
+    kroiFree(d);
 }
 
 }  // namespace
