@@ -41,6 +41,7 @@ KroStatus choose(const J& j, Params p)
         if constexpr (std::is_same_v<Fam, Div>) return runOp<L>(FloatDiv{}, j);
         else return runOp<L>(Float<Fam>{}, j);
     } else if constexpr (std::is_same_v<Fam, DivRound>) {
+        const RoundingScope nearest(RoundingScope::kNearest);
         return runOp<L>(DivExact<T>{p.scaleFactor, p.mode}, j);
     } else if constexpr (std::is_same_v<Fam, Div>) {
         if constexpr (std::is_same_v<T, Kro8u>) {
@@ -49,6 +50,7 @@ KroStatus choose(const J& j, Params p)
             const RoundingScope nearest(RoundingScope::kNearest);
             return runOp<L>(DivRecip8u{s}, j);
         } else {
+            const RoundingScope nearest(RoundingScope::kNearest);
             return runOp<L>(DivExact<T>{p.scaleFactor, kroRndNear}, j);
         }
     } else {

@@ -454,21 +454,72 @@ constexpr T divByZero(T x)
     return x > 0 ? std::numeric_limits<T>::max() : x < 0 ? std::numeric_limits<T>::min() : T(0);
 }
 
-// Integer division with a rounding mode, exact.  Scalar only: the 16-bit divisions are not
-// among the hot paths.
+// Integer division with a rounding mode, exact; the scalar body is the definition.
+//
+// The vector body divides in double precision, x 2^-s / y with s clamped to +-40 as above.
+// That is exact enough to round exactly: x 2^-s is exact, the quotient is rounded once, and
+// a quotient that is not itself an integer or a half lies at least 2^-17 of its size away
+// from every integer and half (|x| < 2^16), far more than double's 2^-53, so rounding to an
+// integer, either way and at ties, lands where the exact quotient would.  Quotients are
+// clamped to +-2^20, beyond every pixel type, before the conversion to 32 bits.  Mode 1
+// converts by the rounding control: the caller runs it in a RoundingScope(kNearest).
 template <class T>
 struct DivExact {
-    static constexpr bool kVector = false;
+    static constexpr bool kVector = true;
     static constexpr bool kDivides = true;
     static constexpr bool kMergeRows = true;
-    using Vec = typename Simd<T>::Vec;
+    using Vec = __m128i;
+    using W = Lanes32<T>;
     int s = 0;
     int mode = kroRndNear;
+
     T scalar(T x, T y) const
     {
         return y == 0 ? divByZero(x) : saturate<T>(divScaleRound(x, y, s, mode));
     }
-    Vec vec(Vec x, Vec) const { return x; }
+
+    // Two quotients, rounded by the mode, in the low two int32 lanes.
+    __m128i quotient2(__m128d x, __m128d y, __m128d scale) const
+    {
+        const __m128d lim = _mm_set1_pd(1048576.0);
+        __m128d q = _mm_div_pd(_mm_mul_pd(x, scale), y);
+        q = _mm_max_pd(_mm_min_pd(q, lim), _mm_sub_pd(_mm_setzero_pd(), lim)); // NaN (0 / 0) gives -lim
+        if (mode == kroRndNear) return _mm_cvtpd_epi32(q);
+        const __m128i t = _mm_cvttpd_epi32(q);
+        if (mode == kroRndZero) return t;
+        const __m128d frac = _mm_sub_pd(q, _mm_cvtepi32_pd(t)); // exact
+        const __m128i up = _mm_shuffle_epi32(_mm_castpd_si128(_mm_cmpge_pd(frac, _mm_set1_pd(0.5))), 0x08);
+        const __m128i dn = _mm_shuffle_epi32(_mm_castpd_si128(_mm_cmple_pd(frac, _mm_set1_pd(-0.5))), 0x08);
+        return _mm_add_epi32(_mm_sub_epi32(t, up), dn);
+    }
+
+    Vec vec(Vec x, Vec y) const
+    {
+        __m128i a[W::kParts], b[W::kParts], q[W::kParts];
+        W::widen(x, a);
+        W::widen(y, b);
+        const __m128d scale = _mm_set1_pd(std::ldexp(1.0, s < -40 ? 40 : s > 40 ? -40 : -s));
+        for (int k = 0; k < W::kParts; ++k) {
+            const __m128i lo = quotient2(_mm_cvtepi32_pd(a[k]), _mm_cvtepi32_pd(b[k]), scale);
+            const __m128i hi = quotient2(_mm_cvtepi32_pd(_mm_shuffle_epi32(a[k], 0xEE)),
+                                         _mm_cvtepi32_pd(_mm_shuffle_epi32(b[k], 0xEE)), scale);
+            q[k] = _mm_unpacklo_epi64(lo, hi);
+        }
+        const __m128i r = W::narrow(q);
+        // Zero divisors: the type's maximum for x > 0, its minimum for x < 0, 0 for 0.
+        const __m128i z = _mm_setzero_si128();
+        const __m128i yZero = S::zeroLanes(y);
+        __m128i byZero;
+        if constexpr (std::is_signed_v<T>)
+            byZero = _mm_or_si128(_mm_and_si128(_mm_cmpgt_epi16(x, z), _mm_set1_epi16(0x7FFF)),
+                                  _mm_and_si128(_mm_cmplt_epi16(x, z), _mm_set1_epi16(short(0x8000))));
+        else
+            byZero = _mm_andnot_si128(S::zeroLanes(x), _mm_set1_epi8(-1));
+        return S::select(yZero, byZero, r);
+    }
+
+private:
+    using S = Simd<T>;
 };
 
 // 8u division for -15 <= s <= 8: x times the reciprocal of y, the reciprocal taken from the
