@@ -274,7 +274,7 @@ struct Lanes32<Kro16u> {
         return _mm_xor_si128(p, _mm_set1_epi16(short(0x8000)));
     }
     static void mul(__m128i, __m128i, __m128i*) {}
-    static constexpr bool kMul = false; // 65535^2 does not fit 32 signed bits
+    static constexpr bool kMul = false; // 65535^2 does not fit 32 signed bits: see Scaled::mul16u
 };
 
 // The exact result of Kind in 32-bit lanes.
@@ -293,37 +293,36 @@ inline void exact32(__m128i x, __m128i y, __m128i* r)
     }
 }
 
-template <class Kind, class T>
-inline constexpr bool kHasVector32 = !std::is_same_v<Kind, Mul> || Lanes32<T>::kMul;
-
 // ---- scaled integer operations -------------------------------------------------------------------
 
 enum class Mode { Plain, Half, Down, Up, Bound };
 
 // x op y, exact, times 2^-s, ties to even, saturated to T.  `s` must lie in the mode's range:
-// Plain 0, Half 1, Down 2..31, Up below 0, Bound where every non-zero result saturates.
+// Plain 0, Half 1, Down 2..32 (below the fill range), Up below 0, Bound where every non-zero
+// result saturates.
 template <class T, class Kind, Mode M>
 struct Scaled {
     using S = Simd<T>;
     using W = Lanes32<T>;
     using Vec = __m128i;
-    static constexpr bool kVector = kHasVector32<Kind, T>;
+    static constexpr bool kVector = true;
     static constexpr bool kDivides = false;
     static constexpr bool kMergeRows = true;
     static constexpr int64_t kLo = std::numeric_limits<T>::min(), kHi = std::numeric_limits<T>::max();
 
     int s = 0;
-    __m128i bias, one, count, hiK, loK, hiV, loV;
+    __m128i bias, one, count, hiK, loK, hiV, loV, half;
 
     explicit Scaled(int scale = M == Mode::Half ? 1 : 0) : s(scale)
     {
         one = _mm_set1_epi32(1);
         hiV = _mm_set1_epi32(int(kHi));
         loV = _mm_set1_epi32(int(kLo));
-        const int down = s > 0 ? (s > 31 ? 31 : s) : 0;
+        const int down = s > 0 ? (s > 32 ? 32 : s) : 0;
         const int up = s < 0 ? (s < -31 ? 31 : -s) : 0;
         count = _mm_cvtsi32_si128(down > 0 ? down : up);
-        bias = _mm_set1_epi32(down > 0 ? int((int64_t{1} << (down - 1)) - 1) : 0);
+        bias = _mm_set1_epi32(down > 0 ? int(uint32_t((int64_t{1} << (down - 1)) - 1)) : 0);
+        half = _mm_set1_epi32(down > 0 ? int(uint32_t{1} << (down - 1)) : 0); // 2^31 wraps, as wanted
         // r << up stays in range exactly when -((-lo) >> up) <= r <= hi >> up.
         hiK = _mm_set1_epi32(int(kHi >> up));
         loK = _mm_set1_epi32(int(-((-kLo) >> up)));
@@ -359,6 +358,8 @@ struct Scaled {
             const __m128i zx = _mm_cmpeq_epi8(x, z), zy = _mm_cmpeq_epi8(y, z);
             const __m128i isZero = kAdd ? _mm_and_si128(zx, zy) : _mm_or_si128(zx, zy);
             return _mm_andnot_si128(isZero, _mm_set1_epi8(-1));
+        } else if constexpr (std::is_same_v<T, Kro16u> && std::is_same_v<Kind, Mul>) {
+            return mul16u(x, y);
         } else if constexpr (M == Mode::Bound && k8u && kSub) {
             const __m128i d = _mm_subs_epu8(x, y);
             return _mm_andnot_si128(_mm_cmpeq_epi8(d, _mm_setzero_si128()), _mm_set1_epi8(-1));
@@ -367,6 +368,35 @@ struct Scaled {
             exact32<Kind, T>(x, y, r);
             for (int k = 0; k < W::kParts; ++k) r[k] = scale32(r[k]);
             return W::narrow(r);
+        }
+    }
+
+    // 16u products reach 65535^2, past int32: they are kept as 16-bit halves, a product
+    // above 65535 saturates at s <= 0, and s > 0 rounds in unsigned 32-bit lanes by
+    // quotient and remainder, which cannot overflow.
+    __m128i mul16u(__m128i x, __m128i y) const
+    {
+        const __m128i lo = _mm_mullo_epi16(x, y), hi = _mm_mulhi_epu16(x, y);
+        const __m128i big = _mm_andnot_si128(_mm_cmpeq_epi16(hi, _mm_setzero_si128()), _mm_set1_epi8(-1));
+        if constexpr (M == Mode::Plain) {
+            return _mm_or_si128(lo, big);
+        } else if constexpr (M == Mode::Up) {
+            __m128i r[2];
+            W::widen(lo, r);
+            r[0] = scale32(r[0]);
+            r[1] = scale32(r[1]);
+            return _mm_or_si128(W::narrow(r), big);
+        } else {
+            const __m128i sign = _mm_set1_epi32(INT_MIN), halfS = _mm_xor_si128(half, sign);
+            __m128i p[2] = {_mm_unpacklo_epi16(lo, hi), _mm_unpackhi_epi16(lo, hi)};
+            for (__m128i& v : p) {
+                const __m128i q = _mm_srl_epi32(v, count);
+                const __m128i rem = _mm_sub_epi32(v, _mm_sll_epi32(q, count));
+                const __m128i gt = _mm_cmpgt_epi32(_mm_xor_si128(rem, sign), halfS);
+                const __m128i tieOdd = _mm_and_si128(_mm_cmpeq_epi32(rem, half), q);
+                v = _mm_add_epi32(q, _mm_and_si128(_mm_or_si128(gt, tieOdd), one));
+            }
+            return W::narrow(p); // q < 2^31 for s >= 1
         }
     }
 

@@ -59,8 +59,10 @@ void sweep()
     for (const auto& m : members<T>()) {
         const int modes = m.op == Op::DivRound ? 3 : 1;
         for (int mode = 0; mode < modes; ++mode)
-            for (int s = -20; s <= 20; ++s) {
-                checkForms(m, Params{s, m.op == Op::DivRound ? mode : 1}, kWidths[k++ % std::size(kWidths)], rng);
+            for (int s = -22; s <= 22; ++s) {
+                // -20..20, and beyond: the clamps of the shifts and the last 16u products.
+                const int scale = s == -22 ? -40 : s == -21 ? 31 : s == 21 ? 32 : s == 22 ? 33 : s;
+                checkForms(m, Params{scale, m.op == Op::DivRound ? mode : 1}, kWidths[k++ % std::size(kWidths)], rng);
                 if (testing::Test::HasFailure()) return; // one member's failure is enough to read
             }
     }
