@@ -29,18 +29,29 @@
 //                 divide set kDivides: the row loop then reports whether a right operand
 //                 that it wrote a result for was zero.
 //
+//                 Besides Scaled: Float<Kind> and FloatDiv (32f), DivExact<T> (integer
+//                 division with a rounding mode, exact), DivRecip8u and DivBound8u (8u
+//                 division through the single-precision reciprocal, and its ranges where the
+//                 scale factor alone decides).
+//
 //   rowLoop<L>    one row: vectors over the bulk, the operation's scalar body over the tail;
 //                 kAC4 puts the destination's fourth element back into each vector before
 //                 the store and skips it in the tail.
-//   runRows<L>    every row of a Job (operands, destination, size), merged into one long row
-//                 when all of them lie end to end and the operation allows it.
+//   job(x, y, d, dStep, width, height)
+//                 what a call works on; runRows<L>(op, job) walks its rows, merged into one
+//                 long row when all of them lie end to end and the operation allows it, with
+//                 non-temporal stores when the images exceed the largest cache;
+//                 runOp<L>(op, job) does the same and returns 0 or the zero-divisor warning.
 //   Ranges<Kind, T> and scaled<Kind, T, L>(job, s)
 //                 the kernel choice by scale factor: fill 0 where every result is 0 (through
-//                 the Set functions), otherwise the mode for s.  Its result never depends on
-//                 the choice, which only saves work.
+//                 the Set functions, fillZero<T, L>), otherwise the mode for s.  Its result
+//                 never depends on the choice, which only saves work.
 //
-// A constant family instantiates the same: scaled<Add, Kro8u, kC3>(Job{image, constant,
-// dst, ...}, s) is AddC.
+// A constant family instantiates the same pieces:
+//     scaled<Add, Kro8u, kC3>(job(ImageOperand<Kro8u>(pSrc, srcStep),
+//                                 ConstOperand<Kro8u, kC3>(value), pDst, dstStep, w, h), s)
+// is AddC_8u_C3, and runOp<kC1>(DivExact<Kro16s>{s, kroRndNear}, job(...)) inside a
+// RoundingScope(kNearest) divides by a constant.
 #pragma once
 
 #include <emmintrin.h>

@@ -38,7 +38,7 @@ void checkOrder()
             const KroStatus want = m.op == Op::DivRound ? c.rounding : divides(m.op) ? c.divides : c.other;
             if (want >= 0) continue; // not an error for this member
             SCOPED_TRACE(m.name + ": " + c.what);
-            kt::Guarded<T> a(4, 2, elems(m.layout), 3), d(4, 2, elems(m.layout), 3);
+            kt::Guarded<T> a(4, 2, elems(m.layout), 4), d(4, 2, elems(m.layout), 4);
             a.fillBytes(1);
             d.fillBytes(0xA5);
             const auto before = d.snapshot();

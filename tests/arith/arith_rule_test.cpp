@@ -9,15 +9,18 @@ namespace {
 constexpr int kWidths[] = {1, 2, 3, 5, 7, 8, 15, 16, 17, 31, 33, 47, 48, 49, 65, 70};
 constexpr int kHeight = 3;
 
+// Padding of 0, 7 or 14 elements, and starts anywhere an element may start.
+template <class T>
 kt::Shape shape(int width, Layout l, kt::Rng& rng, kt::Guard guard)
 {
+    constexpr int e = sizeof(T);
     kt::Shape s;
     s.width = width;
     s.height = kHeight;
     s.channels = elems(l);
-    s.padBytes = kt::uniform(rng, 0, 2) * 7;
+    s.padBytes = kt::uniform(rng, 0, 2) * 7 * e;
     s.guard = guard;
-    s.offset = guard == kt::Guard::Before ? kt::uniform(rng, 0, 15) : 0;
+    s.offset = guard == kt::Guard::Before ? kt::uniform(rng, 0, 15 / e) * e : 0;
     return s;
 }
 
@@ -27,8 +30,8 @@ void checkForms(const Member<T>& m, Params p, int width, kt::Rng& rng)
 {
     SCOPED_TRACE(m.name + " s " + std::to_string(p.scale) + " mode " + std::to_string(p.mode) + " width " +
                  std::to_string(width));
-    kt::Guarded<T> a(shape(width, m.layout, rng, kt::Guard::After));
-    kt::Guarded<T> b(shape(width, m.layout, rng, kt::Guard::Before));
+    kt::Guarded<T> a(shape<T>(width, m.layout, rng, kt::Guard::After));
+    kt::Guarded<T> b(shape<T>(width, m.layout, rng, kt::Guard::Before));
     fillOperand(a, rng, divides(m.op));
     fillOperand(b, rng, false);
     const KroStatus want = expectedStatus(m.op, a, m.layout);
@@ -37,7 +40,7 @@ void checkForms(const Member<T>& m, Params p, int width, kt::Rng& rng)
 
     for (int form = 0; form < 4; ++form) {
         const bool inPlace = form & 1, wide = form & 2;
-        kt::Guarded<T> d(shape(width, m.layout, rng, form == 1 ? kt::Guard::Before : kt::Guard::After));
+        kt::Guarded<T> d(shape<T>(width, m.layout, rng, form == 1 ? kt::Guard::Before : kt::Guard::After));
         d.fillBytes(0xA5);
         if (inPlace) copyElements(b, d);
         const auto before = d.snapshot();
