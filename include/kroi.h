@@ -451,8 +451,8 @@ KroStatus kroiSet_32f_AC4R(const Kro32f value[3], Kro32f* pDst, int dstStep, Kro
  *   fill through kroiSet_16s_C1R (kroiSet_16s_C3R, _C4R, _AC4R for the other layouts),
  *   whose own checks report a null destination or a bad size.
  *
- * When the sources and the destination together span more than the largest cache
- * (kroGetMaxCacheSizeB) and every destination row starts on 16 bytes, the destination is
+ * When the sources and the destination together span half the largest cache
+ * (kroGetMaxCacheSizeB) or more and every destination row starts on 16 bytes, the destination is
  * written with non-temporal stores, followed by a store fence before the function returns.
  *
  * _L forms: the 64-bit convention at the top of this header; on the long path each row

@@ -701,13 +701,14 @@ Job<T, X, Y> job(X x, Y y, T* d, std::ptrdiff_t dStep, int width, int height)
 }
 
 // Whether a call whose images span `bytes` in all writes its destination with non-temporal
-// stores: only when they do not fit the largest cache, where a store that first reads its
-// line would add a third to the memory traffic, and when every destination row starts on
-// 16 bytes.
+// stores: only when they fill half the largest cache or more (which other programs share,
+// so the images would not stay there for the next call anyway), where a store that first
+// reads its line would add a third to the memory traffic, and when every destination row
+// starts on 16 bytes.
 inline bool streams(std::ptrdiff_t bytes, const void* d, std::ptrdiff_t dStep)
 {
     int cache = 0;
-    if (kroGetMaxCacheSizeB(&cache) != kroStsOk || cache <= 0 || bytes < cache) return false;
+    if (kroGetMaxCacheSizeB(&cache) != kroStsOk || cache <= 0 || bytes < cache / 2) return false;
     return ((reinterpret_cast<std::uintptr_t>(d) | static_cast<std::uintptr_t>(dStep)) & 15) == 0;
 }
 
