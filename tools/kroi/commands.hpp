@@ -23,6 +23,10 @@ int runSplit(const Args& args); // copyset.cpp
 int runMerge(const Args& args); // copyset.cpp
 // end of section COPYSET
 // section ARITH
+int runArithAdd(const Args& args); // arith.cpp
+int runArithSub(const Args& args); // arith.cpp
+int runArithMul(const Args& args); // arith.cpp
+int runArithDiv(const Args& args); // arith.cpp
 // end of section ARITH
 // section ARITHC
 // end of section ARITHC

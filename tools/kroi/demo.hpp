@@ -104,6 +104,10 @@ Image demoClearBlue(DemoContext& ctx);
 Image demoPlanesSwapped(DemoContext& ctx);
 // end of section COPYSET
 // section ARITH
+Image demoArithAdd(DemoContext& ctx);
+Image demoArithSub(DemoContext& ctx);
+Image demoArithMul(DemoContext& ctx);
+Image demoArithDiv(DemoContext& ctx);
 // end of section ARITH
 // section ARITHC
 // end of section ARITHC
