@@ -411,6 +411,289 @@ KroStatus kroiSet_32f_AC4R(const Kro32f value[3], Kro32f* pDst, int dstStep, Kro
  * Arithmetic with constants, logic and shifts
  * ======================================================================================= */
 /* section ARITHC */
+/* ---------------------------------------------------------------------------------------
+ * Bitwise logic: And, Or, Xor, their constant forms, Not and Complement.
+ *
+ * Types 8u, 16u, 32s (Not: 8u; Complement: 8s, 16s, 32s), each in C1, C3, C4 and AC4, out
+ * of place (R) and in place (IR).  AC4 computes the first three channels and never writes
+ * the fourth.  No scaling, no saturation: the result is the bits of the operation.
+ *   kroiAnd/Or/Xor       dst = src1 op src2; in place srcDst = src op srcDst.
+ *   kroiAndC/OrC/XorC    dst = src op value, one value per channel (an array of 3 for C3 and
+ *                        AC4, of 4 for C4; the array pointer is checked like the images).
+ *   kroiNot_8u           dst = ~src (Xor with 255).
+ *   kroiComplement       two's complement to sign and magnitude and back: a negative value
+ *                        becomes its magnitude with the sign bit set, and the reverse, so
+ *                        that two applications give the value back (-1 <-> 0x8001 in 16s);
+ *                        non-negative values are unchanged, and the most negative value
+ *                        (-128, -32768, -2^31), which has no magnitude in the type, maps to
+ *                        itself.
+ * Checks, in this order (it differs from the arithmetic's): a null pointer -8; any step
+ * below 1 -16; width or height below 1 -6.  A zero step with a zero width gives -16.
+ * Status: 0, or the error; nothing is written on error.
+ * ------------------------------------------------------------------------------------- */
+KroStatus kroiAnd_8u_C1R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_8u_C1IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAnd_8u_C3R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_8u_C3IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAnd_8u_C4R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_8u_C4IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAnd_8u_AC4R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_8u_AC4IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAnd_16u_C1R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_16u_C1IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAnd_16u_C3R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_16u_C3IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAnd_16u_C4R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_16u_C4IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAnd_16u_AC4R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_16u_AC4IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAnd_32s_C1R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_32s_C1IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAnd_32s_C3R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_32s_C3IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAnd_32s_C4R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_32s_C4IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAnd_32s_AC4R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_32s_AC4IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+KroStatus kroiOr_8u_C1R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_8u_C1IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOr_8u_C3R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_8u_C3IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOr_8u_C4R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_8u_C4IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOr_8u_AC4R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_8u_AC4IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOr_16u_C1R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_16u_C1IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOr_16u_C3R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_16u_C3IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOr_16u_C4R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_16u_C4IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOr_16u_AC4R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_16u_AC4IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOr_32s_C1R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_32s_C1IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOr_32s_C3R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_32s_C3IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOr_32s_C4R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_32s_C4IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOr_32s_AC4R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_32s_AC4IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+KroStatus kroiXor_8u_C1R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_8u_C1IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXor_8u_C3R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_8u_C3IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXor_8u_C4R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_8u_C4IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXor_8u_AC4R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_8u_AC4IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXor_16u_C1R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_16u_C1IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXor_16u_C3R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_16u_C3IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXor_16u_C4R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_16u_C4IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXor_16u_AC4R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_16u_AC4IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXor_32s_C1R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_32s_C1IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXor_32s_C3R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_32s_C3IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXor_32s_C4R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_32s_C4IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXor_32s_AC4R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_32s_AC4IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+KroStatus kroiAndC_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u value, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_8u_C1IR(Kro8u value, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAndC_8u_C3R(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_8u_C3IR(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAndC_8u_C4R(const Kro8u* pSrc, int srcStep, const Kro8u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_8u_C4IR(const Kro8u value[4], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAndC_8u_AC4R(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_8u_AC4IR(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAndC_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u value, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_16u_C1IR(Kro16u value, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAndC_16u_C3R(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_16u_C3IR(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAndC_16u_C4R(const Kro16u* pSrc, int srcStep, const Kro16u value[4], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_16u_C4IR(const Kro16u value[4], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAndC_16u_AC4R(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_16u_AC4IR(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAndC_32s_C1R(const Kro32s* pSrc, int srcStep, Kro32s value, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_32s_C1IR(Kro32s value, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAndC_32s_C3R(const Kro32s* pSrc, int srcStep, const Kro32s value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_32s_C3IR(const Kro32s value[3], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAndC_32s_C4R(const Kro32s* pSrc, int srcStep, const Kro32s value[4], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_32s_C4IR(const Kro32s value[4], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAndC_32s_AC4R(const Kro32s* pSrc, int srcStep, const Kro32s value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_32s_AC4IR(const Kro32s value[3], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+KroStatus kroiOrC_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u value, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_8u_C1IR(Kro8u value, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOrC_8u_C3R(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_8u_C3IR(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOrC_8u_C4R(const Kro8u* pSrc, int srcStep, const Kro8u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_8u_C4IR(const Kro8u value[4], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOrC_8u_AC4R(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_8u_AC4IR(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOrC_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u value, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_16u_C1IR(Kro16u value, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOrC_16u_C3R(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_16u_C3IR(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOrC_16u_C4R(const Kro16u* pSrc, int srcStep, const Kro16u value[4], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_16u_C4IR(const Kro16u value[4], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOrC_16u_AC4R(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_16u_AC4IR(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOrC_32s_C1R(const Kro32s* pSrc, int srcStep, Kro32s value, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_32s_C1IR(Kro32s value, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOrC_32s_C3R(const Kro32s* pSrc, int srcStep, const Kro32s value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_32s_C3IR(const Kro32s value[3], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOrC_32s_C4R(const Kro32s* pSrc, int srcStep, const Kro32s value[4], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_32s_C4IR(const Kro32s value[4], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOrC_32s_AC4R(const Kro32s* pSrc, int srcStep, const Kro32s value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_32s_AC4IR(const Kro32s value[3], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+KroStatus kroiXorC_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u value, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_8u_C1IR(Kro8u value, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXorC_8u_C3R(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_8u_C3IR(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXorC_8u_C4R(const Kro8u* pSrc, int srcStep, const Kro8u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_8u_C4IR(const Kro8u value[4], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXorC_8u_AC4R(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_8u_AC4IR(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXorC_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u value, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_16u_C1IR(Kro16u value, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXorC_16u_C3R(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_16u_C3IR(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXorC_16u_C4R(const Kro16u* pSrc, int srcStep, const Kro16u value[4], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_16u_C4IR(const Kro16u value[4], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXorC_16u_AC4R(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_16u_AC4IR(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXorC_32s_C1R(const Kro32s* pSrc, int srcStep, Kro32s value, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_32s_C1IR(Kro32s value, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXorC_32s_C3R(const Kro32s* pSrc, int srcStep, const Kro32s value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_32s_C3IR(const Kro32s value[3], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXorC_32s_C4R(const Kro32s* pSrc, int srcStep, const Kro32s value[4], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_32s_C4IR(const Kro32s value[4], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXorC_32s_AC4R(const Kro32s* pSrc, int srcStep, const Kro32s value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_32s_AC4IR(const Kro32s value[3], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+KroStatus kroiNot_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiNot_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiNot_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiNot_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiNot_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiNot_8u_C4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiNot_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiNot_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+KroStatus kroiComplement_8s_C1R(const Kro8s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_8s_C1IR(Kro8s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiComplement_8s_C3R(const Kro8s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_8s_C3IR(Kro8s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiComplement_8s_C4R(const Kro8s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_8s_C4IR(Kro8s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiComplement_8s_AC4R(const Kro8s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_8s_AC4IR(Kro8s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiComplement_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiComplement_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiComplement_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_16s_C4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiComplement_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiComplement_32s_C1R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_32s_C1IR(Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiComplement_32s_C3R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_32s_C3IR(Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiComplement_32s_C4R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_32s_C4IR(Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiComplement_32s_AC4R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_32s_AC4IR(Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+/* ---------------------------------------------------------------------------------------
+ * Shifts by a constant count: kroiLShiftC (8u, 16u, 32s), kroiRShiftC (8u, 16u, 16s, 32s).
+ *
+ * C1, C3, C4, AC4, out of place and in place; the count is an unsigned 32-bit value, an
+ * array of one count per channel for C3, C4 (4) and AC4 (3, the fourth channel is never
+ * written).  Checks as the bitwise logic: null pointer (count array included) -8, any step
+ * below 1 -16, width or height below 1 -6.
+ *   LShiftC   v << count; the bits shifted out are lost (32s: the bits of the two's
+ *             complement value, no saturation).  A count of the type's width or more (8u
+ *             above 7, 16u above 15, 32s above 31) gives 0; when it does so for every
+ *             channel the ROI is filled with 0 through kroiSet of the same layout (16u
+ *             through the 16s form).
+ *   RShiftC   8u, 16u: logical shift, 0 for counts above 7 and 15, filled through kroiSet
+ *             as above.  16s: arithmetic shift, rounding toward minus infinity (-5 by 1
+ *             gives -3); a count of 16 or more gives 0 for non-negative and -1 for negative
+ *             values, and so does every count above 31: no count wraps around or fills.  A
+ *             count of 0 in every channel copies through kroiCopy_16s of the same layout.
+ *             32s: arithmetic too, like 16s, so that a signed image keeps its sign: counts
+ *             of 31 and more give 0 or -1.
+ * Status: 0, or the error (a fill or copy returns the status of kroiSet or kroiCopy).
+ * ------------------------------------------------------------------------------------- */
+KroStatus kroiLShiftC_8u_C1R(const Kro8u* pSrc, int srcStep, Kro32u value, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_8u_C1IR(Kro32u value, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_8u_C3R(const Kro8u* pSrc, int srcStep, const Kro32u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_8u_C3IR(const Kro32u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_8u_C4R(const Kro8u* pSrc, int srcStep, const Kro32u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_8u_C4IR(const Kro32u value[4], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_8u_AC4R(const Kro8u* pSrc, int srcStep, const Kro32u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_8u_AC4IR(const Kro32u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_16u_C1R(const Kro16u* pSrc, int srcStep, Kro32u value, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_16u_C1IR(Kro32u value, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_16u_C3R(const Kro16u* pSrc, int srcStep, const Kro32u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_16u_C3IR(const Kro32u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_16u_C4R(const Kro16u* pSrc, int srcStep, const Kro32u value[4], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_16u_C4IR(const Kro32u value[4], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_16u_AC4R(const Kro16u* pSrc, int srcStep, const Kro32u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_16u_AC4IR(const Kro32u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_32s_C1R(const Kro32s* pSrc, int srcStep, Kro32u value, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_32s_C1IR(Kro32u value, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_32s_C3R(const Kro32s* pSrc, int srcStep, const Kro32u value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_32s_C3IR(const Kro32u value[3], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_32s_C4R(const Kro32s* pSrc, int srcStep, const Kro32u value[4], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_32s_C4IR(const Kro32u value[4], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_32s_AC4R(const Kro32s* pSrc, int srcStep, const Kro32u value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_32s_AC4IR(const Kro32u value[3], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+KroStatus kroiRShiftC_8u_C1R(const Kro8u* pSrc, int srcStep, Kro32u value, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_8u_C1IR(Kro32u value, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_8u_C3R(const Kro8u* pSrc, int srcStep, const Kro32u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_8u_C3IR(const Kro32u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_8u_C4R(const Kro8u* pSrc, int srcStep, const Kro32u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_8u_C4IR(const Kro32u value[4], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_8u_AC4R(const Kro8u* pSrc, int srcStep, const Kro32u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_8u_AC4IR(const Kro32u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16u_C1R(const Kro16u* pSrc, int srcStep, Kro32u value, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16u_C1IR(Kro32u value, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16u_C3R(const Kro16u* pSrc, int srcStep, const Kro32u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16u_C3IR(const Kro32u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16u_C4R(const Kro16u* pSrc, int srcStep, const Kro32u value[4], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16u_C4IR(const Kro32u value[4], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16u_AC4R(const Kro16u* pSrc, int srcStep, const Kro32u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16u_AC4IR(const Kro32u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16s_C1R(const Kro16s* pSrc, int srcStep, Kro32u value, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16s_C1IR(Kro32u value, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16s_C3R(const Kro16s* pSrc, int srcStep, const Kro32u value[3], Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16s_C3IR(const Kro32u value[3], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16s_C4R(const Kro16s* pSrc, int srcStep, const Kro32u value[4], Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16s_C4IR(const Kro32u value[4], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16s_AC4R(const Kro16s* pSrc, int srcStep, const Kro32u value[3], Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16s_AC4IR(const Kro32u value[3], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_32s_C1R(const Kro32s* pSrc, int srcStep, Kro32u value, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_32s_C1IR(Kro32u value, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_32s_C3R(const Kro32s* pSrc, int srcStep, const Kro32u value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_32s_C3IR(const Kro32u value[3], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_32s_C4R(const Kro32s* pSrc, int srcStep, const Kro32u value[4], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_32s_C4IR(const Kro32u value[4], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_32s_AC4R(const Kro32s* pSrc, int srcStep, const Kro32u value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_32s_AC4IR(const Kro32u value[3], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+
 
 /* end of section ARITHC */
 
