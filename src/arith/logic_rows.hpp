@@ -17,6 +17,7 @@
 
 #include "frame/base.hpp"
 #include "frame/check.hpp"
+#include "krocore.h"
 #include "frame/rows.hpp"
 
 namespace KROI_TIER::arith {
@@ -95,41 +96,62 @@ struct ChannelVectors {
     }
 };
 
+// Whether the destination of an out-of-place call is written past the caches.  When source
+// and destination together outgrow half the largest cache, the result is evicted before
+// anyone reads it, and streaming stores save reading every destination line first.
+inline bool streamStores(int64_t bytesTouched)
+{
+    if (bytesTouched < (int64_t{1} << 22)) return false;
+    int cache = 0;
+    return kroGetMaxCacheSizeB(&cache) == kroStsOk && bytesTouched >= cache / 2;
+}
+
+// The vector bulk of a row: blocks of four vectors (one pattern period of three for C3),
+// AC4 alpha lanes restored from the destination, streaming stores when asked for (the
+// destination is then 16-byte aligned).  `vec(i, phase)` computes the vector at element i.
+// Returns the number of elements done.
+template <class T, class Lay, bool Stream, class Vec>
+[[gnu::always_inline]] inline long bulk(T* d, long n, Vec vec)
+{
+    constexpr long L = kLanes<T>, P = Lay::kPhases, B = P == 1 ? 4 : P;
+    const __m128i alpha = Lay::kAlpha ? alphaLanes<T>() : _mm_setzero_si128();
+    long i = 0;
+    auto one = [&](long at, int phase) [[gnu::always_inline]] {
+        __m128i r = vec(at, phase);
+        if constexpr (Lay::kAlpha) r = _mm_or_si128(_mm_andnot_si128(alpha, r), _mm_and_si128(alpha, load(d + at)));
+        if constexpr (Stream) _mm_stream_si128(reinterpret_cast<__m128i*>(d + at), r);
+        else store(d + at, r);
+    };
+    for (; i + B * L <= n; i += B * L)
+        for (long q = 0; q < B; ++q) one(i + q * L, int(q % P));
+    if constexpr (P == 1)
+        for (; i + L <= n; i += L) one(i, 0);
+    return i;
+}
+
+template <class T, class Lay, class Vec>
+[[gnu::always_inline]] inline long bulk(T* d, long n, bool stream, Vec vec)
+{
+    if (stream && (reinterpret_cast<uintptr_t>(d) & 15) == 0) return bulk<T, Lay, true>(d, n, vec);
+    return bulk<T, Lay, false>(d, n, vec);
+}
+
 // d[i] = op(s[i]) over n elements of a Lay row.
 template <class T, class Lay, class Op>
-void rowUnary(const T* s, T* d, long n, const Op& op)
+void rowUnary(const T* s, T* d, long n, const Op& opArg, bool stream = false)
 {
-    constexpr long L = kLanes<T>, P = Lay::kPhases;
-    long i = 0;
-    if constexpr (Lay::kAlpha) {
-        const __m128i alpha = alphaLanes<T>();
-        for (; i + L <= n; i += L) {
-            const __m128i r = op.vec(load(s + i), 0);
-            store(d + i, _mm_or_si128(_mm_andnot_si128(alpha, r), _mm_and_si128(alpha, load(d + i))));
-        }
-    } else {
-        for (; i + P * L <= n; i += P * L)
-            for (long p = 0; p < P; ++p) store(d + i + p * L, op.vec(load(s + i + p * L), int(p)));
-    }
+    const Op op = opArg; // a local copy: stores through d cannot change its constants
+    long i = bulk<T, Lay>(d, n, stream, [&](long at, int phase) { return op.vec(load(s + at), phase); });
     for (; i < n; ++i)
         if (!Lay::kAlpha || i % 4 != 3) d[i] = op.scalar(s[i], int(i % Lay::kElems));
 }
 
 // d[i] = op(a[i], b[i]) over n elements of a Lay row.
 template <class T, class Lay, class Op>
-void rowBinary(const T* a, const T* b, T* d, long n, const Op& op)
+void rowBinary(const T* a, const T* b, T* d, long n, const Op& opArg, bool stream = false)
 {
-    constexpr long L = kLanes<T>;
-    long i = 0;
-    if constexpr (Lay::kAlpha) {
-        const __m128i alpha = alphaLanes<T>();
-        for (; i + L <= n; i += L) {
-            const __m128i r = op.vec(load(a + i), load(b + i));
-            store(d + i, _mm_or_si128(_mm_andnot_si128(alpha, r), _mm_and_si128(alpha, load(d + i))));
-        }
-    } else {
-        for (; i + L <= n; i += L) store(d + i, op.vec(load(a + i), load(b + i)));
-    }
+    const Op op = opArg;
+    long i = bulk<T, Lay>(d, n, stream, [&](long at, int) { return op.vec(load(a + at), load(b + at)); });
     for (; i < n; ++i)
         if (!Lay::kAlpha || i % 4 != 3) d[i] = op.scalar(a[i], b[i]);
 }
@@ -139,29 +161,32 @@ template <class T, class Lay, class Op>
 void imageUnary(const T* s, int ss, T* d, int sd, KroiSize roi, const Op& op)
 {
     const long n = long(roi.width) * Lay::kElems;
+    const bool stream = static_cast<const void*>(s) != d && streamStores(2 * n * roi.height * long(sizeof(T)));
     const auto is = rows::image(s, ss);
     const auto id = rows::image(d, sd);
-    if (rows::merged(std::ptrdiff_t(n * sizeof(T)), is, id)) {
-        rowUnary<T, Lay>(s, d, n * roi.height, op);
-        return;
-    }
-    rows::each(roi.width, roi.height, [&](const T* rs, T* rd, int) { rowUnary<T, Lay>(rs, rd, n, op); }, is, id);
+    if (rows::merged(std::ptrdiff_t(n * sizeof(T)), is, id))
+        rowUnary<T, Lay>(s, d, n * roi.height, op, stream);
+    else
+        rows::each(roi.width, roi.height, [&](const T* rs, T* rd, int) { rowUnary<T, Lay>(rs, rd, n, op, stream); }, is, id);
+    if (stream) _mm_sfence();
 }
 
 template <class T, class Lay, class Op>
 void imageBinary(const T* a, int sa, const T* b, int sb, T* d, int sd, KroiSize roi, const Op& op)
 {
     const long n = long(roi.width) * Lay::kElems;
+    const bool stream = static_cast<const void*>(a) != d && static_cast<const void*>(b) != d &&
+                        streamStores(3 * n * roi.height * long(sizeof(T)));
     const auto ia = rows::image(a, sa);
     const auto ib = rows::image(b, sb);
     const auto id = rows::image(d, sd);
-    if (rows::merged(std::ptrdiff_t(n * sizeof(T)), ia, ib, id)) {
-        rowBinary<T, Lay>(a, b, d, n * roi.height, op);
-        return;
-    }
-    rows::each(
-        roi.width, roi.height, [&](const T* ra, const T* rb, T* rd, int) { rowBinary<T, Lay>(ra, rb, rd, n, op); },
-        ia, ib, id);
+    if (rows::merged(std::ptrdiff_t(n * sizeof(T)), ia, ib, id))
+        rowBinary<T, Lay>(a, b, d, n * roi.height, op, stream);
+    else
+        rows::each(
+            roi.width, roi.height,
+            [&](const T* ra, const T* rb, T* rd, int) { rowBinary<T, Lay>(ra, rb, rd, n, op, stream); }, ia, ib, id);
+    if (stream) _mm_sfence();
 }
 
 }  // namespace KROI_TIER::arith
