@@ -235,6 +235,23 @@ TEST(ArithcBitwise, ComplementTwiceGivesTheValueBack)
     EXPECT_IMAGE_EQ(img, [&](int x, int y, int) { return orig.at(x, y); });
 }
 
+// Images that outgrow the caches are written with streaming stores, from a 16-byte aligned
+// destination row only; the result is the same.
+TEST(ArithcBitwise, LargeImagesMatchRule)
+{
+    kt::Rng rng = kt::rngForTest();
+    for (int offset : {0, 3}) {
+        const kt::Shape shape{4096, 2048, 1, 0, kt::Guard::Before, offset, false};
+        kt::Guarded<Kro8u> a(shape), b(shape), d(shape);
+        kt::fillRandom(a, rng);
+        kt::fillRandom(b, rng);
+        ASSERT_EQ(kroiAndC_8u_C1R(a.ptr(), a.step(), 0x3C, d.ptr(), d.step(), {4096, 2048}), kroStsOk);
+        EXPECT_IMAGE_EQ(d, [&](int x, int y, int) { return Kro8u(a.at(x, y) & 0x3C); });
+        ASSERT_EQ(kroiXor_8u_C1R(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), {4096, 2048}), kroStsOk);
+        EXPECT_IMAGE_EQ(d, [&](int x, int y, int) { return Kro8u(a.at(x, y) ^ b.at(x, y)); });
+    }
+}
+
 // Every member, out of place and in place, through the family's check order.
 template <class T, std::size_t N>
 void checkOrder(const BinMember<T> (&members)[N])

@@ -23,6 +23,10 @@ int runPngRoundtrip(const Args& args); // roundtrip.cpp
 // section ARITH
 // end of section ARITH
 // section ARITHC
+int runAnd(const Args& args);   // arithc.cpp
+int runXor(const Args& args);   // arithc.cpp
+int runNot(const Args& args);   // arithc.cpp
+int runShift(const Args& args); // arithc.cpp
 // end of section ARITHC
 // section CONVERT
 // end of section CONVERT

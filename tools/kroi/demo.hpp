@@ -101,6 +101,10 @@ std::span<const DemoEntry> demoEntries();
 // section ARITH
 // end of section ARITH
 // section ARITHC
+Image demoNot(DemoContext& ctx);     // demo_arithc.cpp
+Image demoAndC(DemoContext& ctx);    // demo_arithc.cpp
+Image demoXor(DemoContext& ctx);     // demo_arithc.cpp
+Image demoRShiftC(DemoContext& ctx); // demo_arithc.cpp
 // end of section ARITHC
 // section CONVERT
 // end of section CONVERT

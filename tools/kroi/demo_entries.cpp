@@ -113,6 +113,10 @@ constexpr DemoEntry kEntries[] = {
     // section ARITH
     // end of section ARITH
     // section ARITHC
+    {"not-8u-c3", "kroiNot_8u_C3R(src, srcStep, dst, dstStep, {512, 384})", demoNot},
+    {"andc-8u-c3", "kroiAndC_8u_C3R(src, srcStep, (Kro8u[]){0xE0, 0xE0, 0xC0}, dst, dstStep, {512, 384})", demoAndC},
+    {"xor-8u-c3", "kroiXor_8u_C3R(src, srcStep, second, secondStep, dst, dstStep, {512, 384})", demoXor},
+    {"rshiftc-8u-c3", "kroiRShiftC_8u_C3R(src, srcStep, (Kro32u[]){0, 1, 3}, dst, dstStep, {512, 384})", demoRShiftC},
     // end of section ARITHC
     // section CONVERT
     // end of section CONVERT

@@ -36,6 +36,10 @@ constexpr Command kCommands[] = {
     // section ARITH
     // end of section ARITH
     // section ARITHC
+    {"and", "kroi and A.png (B.png | VALUE) OUT.png\n    bitwise And with a second image of the same size and type, or with a constant", runAnd},
+    {"xor", "kroi xor A.png (B.png | VALUE) OUT.png\n    bitwise Xor with a second image or a constant", runXor},
+    {"not", "kroi not IN.png OUT.png\n    every sample's bits inverted", runNot},
+    {"shift", "kroi shift IN.png COUNT OUT.png\n    samples shifted left by COUNT bits, right for a negative COUNT", runShift},
     // end of section ARITHC
     // section CONVERT
     // end of section CONVERT
