@@ -404,6 +404,365 @@ KroStatus kroiSet_32f_AC4R(const Kro32f value[3], Kro32f* pDst, int dstStep, Kro
  * Two-image arithmetic
  * ======================================================================================= */
 /* section ARITH */
+/* Two-image arithmetic: Add, Sub, Mul, Div, Div_Round.
+ *
+ *   kroiAdd   dst = src1 + src2        kroiSub   dst = src2 - src1
+ *   kroiMul   dst = src1 x src2        kroiDiv   dst = src2 / src1
+ *   kroiDiv_Round                      dst = src2 / src1, rounded by rndMode
+ * The first image is the subtrahend and the divisor.  In place (IR), pSrc plays src1 and
+ * pSrcDst both src2 and the destination: pSrcDst = pSrcDst - pSrc, pSrcDst / pSrc.
+ * A row is width x channels elements; AC4 computes the first three elements of each pixel
+ * and never writes the fourth.
+ *
+ * Integer forms (8u, 16u, 16s, Sfs): the exact result r (sum, difference, product as a wide
+ * integer, quotient as below) times 2^-scaleFactor, rounded to nearest with ties to even,
+ * saturated to the type (8u 0..255, 16u 0..65535, 16s -32768..32767).  Every scale factor is
+ * allowed; where it makes every result 0 (Add 8u s > 9, Sub 8u s > 8, Mul 8u s > 16, Add and
+ * Sub 16s s > 16, Mul 16s s > 30, Add 16u s >= 18, Sub 16u s >= 17, Mul 16u s >= 33) the
+ * destination ROI is filled with 0 through kroiSet and the Set's status is returned.
+ * 32f forms: one IEEE single-precision operation per element.
+ *
+ * Division:
+ *   8u Div, -15 <= s <= 8: src2 times the reciprocal of src1 in single precision, the
+ *     reciprocal being the processor's estimate refined by one Newton-Raphson step
+ *     x0 (2 - src1 x0); the quotient times 2^-s is converted to the nearest integer, ties to
+ *     even, and saturated.  The last (width x channels) mod 16 elements of each ROI row are
+ *     divided exactly in single precision instead.  At ties (for example 3 / 2) the estimate
+ *     may round differently from the exact quotient.  s > 8: 0; s < -15: 255 where src2 is
+ *     non-zero, 0 where it is 0.
+ *   16u and 16s Div: exact, (src2 x 2^-s) / src1 rounded to nearest with ties to even.
+ *   Div_Round (8u, 16u, 16s): exact in every type, (src2 x 2^-s) / src1 rounded by rndMode:
+ *     kroRndZero (0) toward zero, kroRndNear (1) to nearest with ties to even, kroRndNearAway
+ *     (2) to nearest with ties away from zero; then saturated.  8u Div_Round with mode 1
+ *     is therefore the exact quotient, which 8u Div may miss at ties.
+ *   Zero divisor (every integer division): the result is the type's maximum where src2 > 0,
+ *     the type's minimum where src2 < 0 (16s: -32768) and 0 where src2 = 0, as if the
+ *     quotient were an infinity of src2's sign; the whole ROI is computed and the status is
+ *     kroStsZeroDivisorWarn (2).  32f Div: the IEEE result (+-inf, NaN for 0 / 0) and the
+ *     warning 2.  In AC4 forms the untouched fourth channel does not count.
+ *
+ * Checks, in this order; the first failure is returned and nothing is written:
+ *   1. null pSrc1, pSrc2 or pDst (in place pSrc, pSrcDst): kroStsNullPointerErr (-8);
+ *   2. width or height < 1: kroStsBadSizeErr (-6);
+ *   3. Div and Div_Round only: any step < 1: kroStsBadStepErr (-16).  Add, Sub and Mul do not
+ *      check steps and use them as given (zero and negative steps included);
+ *   4. Div_Round only: rndMode not 0, 1 or 2: kroStsBadRoundModeErr (-213).
+ *   16u Add from s = 18 and 16u Sub from s = 17 check only the two source pointers, then
+ *   fill through kroiSet_16s_C1R (kroiSet_16s_C3R, _C4R, _AC4R for the other layouts),
+ *   whose own checks report a null destination or a bad size.
+ *
+ * _L forms: the 64-bit convention at the top of this header; on the long path each row
+ * piece goes to the operation's one-row function, which checks its pointers, its length and
+ * (Div_Round) the rounding mode, and returns the warning 2 for zero divisors.
+ */
+
+KroStatus kroiAdd_8u_C1RSfs(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_8u_C1IRSfs(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_8u_C1RSfs_L(const Kro8u* pSrc1, int64_t src1Step, const Kro8u* pSrc2, int64_t src2Step, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_8u_C1IRSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_8u_C3RSfs(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_8u_C3IRSfs(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_8u_C3RSfs_L(const Kro8u* pSrc1, int64_t src1Step, const Kro8u* pSrc2, int64_t src2Step, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_8u_C3IRSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_8u_C4RSfs(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_8u_C4IRSfs(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_8u_C4RSfs_L(const Kro8u* pSrc1, int64_t src1Step, const Kro8u* pSrc2, int64_t src2Step, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_8u_C4IRSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_8u_AC4RSfs(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_8u_AC4IRSfs(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_8u_AC4RSfs_L(const Kro8u* pSrc1, int64_t src1Step, const Kro8u* pSrc2, int64_t src2Step, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_8u_AC4IRSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_16u_C1RSfs(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_16u_C1IRSfs(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_16u_C1RSfs_L(const Kro16u* pSrc1, int64_t src1Step, const Kro16u* pSrc2, int64_t src2Step, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_16u_C1IRSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_16u_C3RSfs(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_16u_C3IRSfs(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_16u_C3RSfs_L(const Kro16u* pSrc1, int64_t src1Step, const Kro16u* pSrc2, int64_t src2Step, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_16u_C3IRSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_16u_C4RSfs(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_16u_C4IRSfs(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_16u_C4RSfs_L(const Kro16u* pSrc1, int64_t src1Step, const Kro16u* pSrc2, int64_t src2Step, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_16u_C4IRSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_16u_AC4RSfs(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_16u_AC4IRSfs(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_16u_AC4RSfs_L(const Kro16u* pSrc1, int64_t src1Step, const Kro16u* pSrc2, int64_t src2Step, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_16u_AC4IRSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_16s_C1RSfs(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_16s_C1IRSfs(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_16s_C1RSfs_L(const Kro16s* pSrc1, int64_t src1Step, const Kro16s* pSrc2, int64_t src2Step, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_16s_C1IRSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_16s_C3RSfs(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_16s_C3IRSfs(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_16s_C3RSfs_L(const Kro16s* pSrc1, int64_t src1Step, const Kro16s* pSrc2, int64_t src2Step, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_16s_C3IRSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_16s_C4RSfs(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_16s_C4IRSfs(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_16s_C4RSfs_L(const Kro16s* pSrc1, int64_t src1Step, const Kro16s* pSrc2, int64_t src2Step, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_16s_C4IRSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_16s_AC4RSfs(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_16s_AC4IRSfs(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAdd_16s_AC4RSfs_L(const Kro16s* pSrc1, int64_t src1Step, const Kro16s* pSrc2, int64_t src2Step, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_16s_AC4IRSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAdd_32f_C1R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAdd_32f_C1IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAdd_32f_C1R_L(const Kro32f* pSrc1, int64_t src1Step, const Kro32f* pSrc2, int64_t src2Step, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiAdd_32f_C1IR_L(const Kro32f* pSrc, int64_t srcStep, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiAdd_32f_C3R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAdd_32f_C3IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAdd_32f_C3R_L(const Kro32f* pSrc1, int64_t src1Step, const Kro32f* pSrc2, int64_t src2Step, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiAdd_32f_C3IR_L(const Kro32f* pSrc, int64_t srcStep, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiAdd_32f_C4R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAdd_32f_C4IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAdd_32f_C4R_L(const Kro32f* pSrc1, int64_t src1Step, const Kro32f* pSrc2, int64_t src2Step, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiAdd_32f_C4IR_L(const Kro32f* pSrc, int64_t srcStep, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiAdd_32f_AC4R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAdd_32f_AC4IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAdd_32f_AC4R_L(const Kro32f* pSrc1, int64_t src1Step, const Kro32f* pSrc2, int64_t src2Step, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiAdd_32f_AC4IR_L(const Kro32f* pSrc, int64_t srcStep, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+
+KroStatus kroiSub_8u_C1RSfs(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_8u_C1IRSfs(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_8u_C1RSfs_L(const Kro8u* pSrc1, int64_t src1Step, const Kro8u* pSrc2, int64_t src2Step, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_8u_C1IRSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_8u_C3RSfs(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_8u_C3IRSfs(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_8u_C3RSfs_L(const Kro8u* pSrc1, int64_t src1Step, const Kro8u* pSrc2, int64_t src2Step, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_8u_C3IRSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_8u_C4RSfs(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_8u_C4IRSfs(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_8u_C4RSfs_L(const Kro8u* pSrc1, int64_t src1Step, const Kro8u* pSrc2, int64_t src2Step, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_8u_C4IRSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_8u_AC4RSfs(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_8u_AC4IRSfs(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_8u_AC4RSfs_L(const Kro8u* pSrc1, int64_t src1Step, const Kro8u* pSrc2, int64_t src2Step, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_8u_AC4IRSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_16u_C1RSfs(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_16u_C1IRSfs(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_16u_C1RSfs_L(const Kro16u* pSrc1, int64_t src1Step, const Kro16u* pSrc2, int64_t src2Step, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_16u_C1IRSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_16u_C3RSfs(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_16u_C3IRSfs(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_16u_C3RSfs_L(const Kro16u* pSrc1, int64_t src1Step, const Kro16u* pSrc2, int64_t src2Step, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_16u_C3IRSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_16u_C4RSfs(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_16u_C4IRSfs(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_16u_C4RSfs_L(const Kro16u* pSrc1, int64_t src1Step, const Kro16u* pSrc2, int64_t src2Step, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_16u_C4IRSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_16u_AC4RSfs(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_16u_AC4IRSfs(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_16u_AC4RSfs_L(const Kro16u* pSrc1, int64_t src1Step, const Kro16u* pSrc2, int64_t src2Step, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_16u_AC4IRSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_16s_C1RSfs(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_16s_C1IRSfs(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_16s_C1RSfs_L(const Kro16s* pSrc1, int64_t src1Step, const Kro16s* pSrc2, int64_t src2Step, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_16s_C1IRSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_16s_C3RSfs(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_16s_C3IRSfs(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_16s_C3RSfs_L(const Kro16s* pSrc1, int64_t src1Step, const Kro16s* pSrc2, int64_t src2Step, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_16s_C3IRSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_16s_C4RSfs(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_16s_C4IRSfs(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_16s_C4RSfs_L(const Kro16s* pSrc1, int64_t src1Step, const Kro16s* pSrc2, int64_t src2Step, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_16s_C4IRSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_16s_AC4RSfs(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_16s_AC4IRSfs(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSub_16s_AC4RSfs_L(const Kro16s* pSrc1, int64_t src1Step, const Kro16s* pSrc2, int64_t src2Step, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_16s_AC4IRSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSub_32f_C1R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSub_32f_C1IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiSub_32f_C1R_L(const Kro32f* pSrc1, int64_t src1Step, const Kro32f* pSrc2, int64_t src2Step, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiSub_32f_C1IR_L(const Kro32f* pSrc, int64_t srcStep, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiSub_32f_C3R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSub_32f_C3IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiSub_32f_C3R_L(const Kro32f* pSrc1, int64_t src1Step, const Kro32f* pSrc2, int64_t src2Step, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiSub_32f_C3IR_L(const Kro32f* pSrc, int64_t srcStep, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiSub_32f_C4R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSub_32f_C4IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiSub_32f_C4R_L(const Kro32f* pSrc1, int64_t src1Step, const Kro32f* pSrc2, int64_t src2Step, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiSub_32f_C4IR_L(const Kro32f* pSrc, int64_t srcStep, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiSub_32f_AC4R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSub_32f_AC4IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiSub_32f_AC4R_L(const Kro32f* pSrc1, int64_t src1Step, const Kro32f* pSrc2, int64_t src2Step, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiSub_32f_AC4IR_L(const Kro32f* pSrc, int64_t srcStep, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+
+KroStatus kroiMul_8u_C1RSfs(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_8u_C1IRSfs(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_8u_C1RSfs_L(const Kro8u* pSrc1, int64_t src1Step, const Kro8u* pSrc2, int64_t src2Step, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_8u_C1IRSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_8u_C3RSfs(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_8u_C3IRSfs(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_8u_C3RSfs_L(const Kro8u* pSrc1, int64_t src1Step, const Kro8u* pSrc2, int64_t src2Step, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_8u_C3IRSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_8u_C4RSfs(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_8u_C4IRSfs(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_8u_C4RSfs_L(const Kro8u* pSrc1, int64_t src1Step, const Kro8u* pSrc2, int64_t src2Step, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_8u_C4IRSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_8u_AC4RSfs(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_8u_AC4IRSfs(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_8u_AC4RSfs_L(const Kro8u* pSrc1, int64_t src1Step, const Kro8u* pSrc2, int64_t src2Step, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_8u_AC4IRSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_16u_C1RSfs(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_16u_C1IRSfs(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_16u_C1RSfs_L(const Kro16u* pSrc1, int64_t src1Step, const Kro16u* pSrc2, int64_t src2Step, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_16u_C1IRSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_16u_C3RSfs(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_16u_C3IRSfs(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_16u_C3RSfs_L(const Kro16u* pSrc1, int64_t src1Step, const Kro16u* pSrc2, int64_t src2Step, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_16u_C3IRSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_16u_C4RSfs(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_16u_C4IRSfs(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_16u_C4RSfs_L(const Kro16u* pSrc1, int64_t src1Step, const Kro16u* pSrc2, int64_t src2Step, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_16u_C4IRSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_16u_AC4RSfs(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_16u_AC4IRSfs(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_16u_AC4RSfs_L(const Kro16u* pSrc1, int64_t src1Step, const Kro16u* pSrc2, int64_t src2Step, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_16u_AC4IRSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_16s_C1RSfs(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_16s_C1IRSfs(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_16s_C1RSfs_L(const Kro16s* pSrc1, int64_t src1Step, const Kro16s* pSrc2, int64_t src2Step, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_16s_C1IRSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_16s_C3RSfs(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_16s_C3IRSfs(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_16s_C3RSfs_L(const Kro16s* pSrc1, int64_t src1Step, const Kro16s* pSrc2, int64_t src2Step, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_16s_C3IRSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_16s_C4RSfs(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_16s_C4IRSfs(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_16s_C4RSfs_L(const Kro16s* pSrc1, int64_t src1Step, const Kro16s* pSrc2, int64_t src2Step, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_16s_C4IRSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_16s_AC4RSfs(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_16s_AC4IRSfs(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMul_16s_AC4RSfs_L(const Kro16s* pSrc1, int64_t src1Step, const Kro16s* pSrc2, int64_t src2Step, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_16s_AC4IRSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMul_32f_C1R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiMul_32f_C1IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMul_32f_C1R_L(const Kro32f* pSrc1, int64_t src1Step, const Kro32f* pSrc2, int64_t src2Step, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiMul_32f_C1IR_L(const Kro32f* pSrc, int64_t srcStep, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiMul_32f_C3R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiMul_32f_C3IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMul_32f_C3R_L(const Kro32f* pSrc1, int64_t src1Step, const Kro32f* pSrc2, int64_t src2Step, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiMul_32f_C3IR_L(const Kro32f* pSrc, int64_t srcStep, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiMul_32f_C4R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiMul_32f_C4IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMul_32f_C4R_L(const Kro32f* pSrc1, int64_t src1Step, const Kro32f* pSrc2, int64_t src2Step, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiMul_32f_C4IR_L(const Kro32f* pSrc, int64_t srcStep, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiMul_32f_AC4R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiMul_32f_AC4IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMul_32f_AC4R_L(const Kro32f* pSrc1, int64_t src1Step, const Kro32f* pSrc2, int64_t src2Step, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiMul_32f_AC4IR_L(const Kro32f* pSrc, int64_t srcStep, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+
+KroStatus kroiDiv_8u_C1RSfs(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_8u_C1IRSfs(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_8u_C1RSfs_L(const Kro8u* pSrc1, int64_t src1Step, const Kro8u* pSrc2, int64_t src2Step, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_8u_C1IRSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_8u_C3RSfs(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_8u_C3IRSfs(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_8u_C3RSfs_L(const Kro8u* pSrc1, int64_t src1Step, const Kro8u* pSrc2, int64_t src2Step, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_8u_C3IRSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_8u_C4RSfs(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_8u_C4IRSfs(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_8u_C4RSfs_L(const Kro8u* pSrc1, int64_t src1Step, const Kro8u* pSrc2, int64_t src2Step, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_8u_C4IRSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_8u_AC4RSfs(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_8u_AC4IRSfs(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_8u_AC4RSfs_L(const Kro8u* pSrc1, int64_t src1Step, const Kro8u* pSrc2, int64_t src2Step, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_8u_AC4IRSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_16u_C1RSfs(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_16u_C1IRSfs(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_16u_C1RSfs_L(const Kro16u* pSrc1, int64_t src1Step, const Kro16u* pSrc2, int64_t src2Step, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_16u_C1IRSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_16u_C3RSfs(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_16u_C3IRSfs(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_16u_C3RSfs_L(const Kro16u* pSrc1, int64_t src1Step, const Kro16u* pSrc2, int64_t src2Step, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_16u_C3IRSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_16u_C4RSfs(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_16u_C4IRSfs(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_16u_C4RSfs_L(const Kro16u* pSrc1, int64_t src1Step, const Kro16u* pSrc2, int64_t src2Step, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_16u_C4IRSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_16u_AC4RSfs(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_16u_AC4IRSfs(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_16u_AC4RSfs_L(const Kro16u* pSrc1, int64_t src1Step, const Kro16u* pSrc2, int64_t src2Step, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_16u_AC4IRSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_16s_C1RSfs(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_16s_C1IRSfs(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_16s_C1RSfs_L(const Kro16s* pSrc1, int64_t src1Step, const Kro16s* pSrc2, int64_t src2Step, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_16s_C1IRSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_16s_C3RSfs(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_16s_C3IRSfs(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_16s_C3RSfs_L(const Kro16s* pSrc1, int64_t src1Step, const Kro16s* pSrc2, int64_t src2Step, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_16s_C3IRSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_16s_C4RSfs(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_16s_C4IRSfs(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_16s_C4RSfs_L(const Kro16s* pSrc1, int64_t src1Step, const Kro16s* pSrc2, int64_t src2Step, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_16s_C4IRSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_16s_AC4RSfs(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_16s_AC4IRSfs(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDiv_16s_AC4RSfs_L(const Kro16s* pSrc1, int64_t src1Step, const Kro16s* pSrc2, int64_t src2Step, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_16s_AC4IRSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDiv_32f_C1R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiDiv_32f_C1IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiDiv_32f_C1R_L(const Kro32f* pSrc1, int64_t src1Step, const Kro32f* pSrc2, int64_t src2Step, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiDiv_32f_C1IR_L(const Kro32f* pSrc, int64_t srcStep, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiDiv_32f_C3R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiDiv_32f_C3IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiDiv_32f_C3R_L(const Kro32f* pSrc1, int64_t src1Step, const Kro32f* pSrc2, int64_t src2Step, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiDiv_32f_C3IR_L(const Kro32f* pSrc, int64_t srcStep, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiDiv_32f_C4R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiDiv_32f_C4IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiDiv_32f_C4R_L(const Kro32f* pSrc1, int64_t src1Step, const Kro32f* pSrc2, int64_t src2Step, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiDiv_32f_C4IR_L(const Kro32f* pSrc, int64_t srcStep, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiDiv_32f_AC4R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiDiv_32f_AC4IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiDiv_32f_AC4R_L(const Kro32f* pSrc1, int64_t src1Step, const Kro32f* pSrc2, int64_t src2Step, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiDiv_32f_AC4IR_L(const Kro32f* pSrc, int64_t srcStep, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiDiv_Round_8u_C1RSfs(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_8u_C1IRSfs(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_8u_C1RSfs_L(const Kro8u* pSrc1, int64_t src1Step, const Kro8u* pSrc2, int64_t src2Step, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_8u_C1IRSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_8u_C3RSfs(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_8u_C3IRSfs(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_8u_C3RSfs_L(const Kro8u* pSrc1, int64_t src1Step, const Kro8u* pSrc2, int64_t src2Step, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_8u_C3IRSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_8u_C4RSfs(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_8u_C4IRSfs(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_8u_C4RSfs_L(const Kro8u* pSrc1, int64_t src1Step, const Kro8u* pSrc2, int64_t src2Step, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_8u_C4IRSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_8u_AC4RSfs(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_8u_AC4IRSfs(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_8u_AC4RSfs_L(const Kro8u* pSrc1, int64_t src1Step, const Kro8u* pSrc2, int64_t src2Step, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_8u_AC4IRSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16u_C1RSfs(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16u_C1IRSfs(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16u_C1RSfs_L(const Kro16u* pSrc1, int64_t src1Step, const Kro16u* pSrc2, int64_t src2Step, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16u_C1IRSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16u_C3RSfs(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16u_C3IRSfs(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16u_C3RSfs_L(const Kro16u* pSrc1, int64_t src1Step, const Kro16u* pSrc2, int64_t src2Step, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16u_C3IRSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16u_C4RSfs(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16u_C4IRSfs(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16u_C4RSfs_L(const Kro16u* pSrc1, int64_t src1Step, const Kro16u* pSrc2, int64_t src2Step, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16u_C4IRSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16u_AC4RSfs(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16u_AC4IRSfs(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16u_AC4RSfs_L(const Kro16u* pSrc1, int64_t src1Step, const Kro16u* pSrc2, int64_t src2Step, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16u_AC4IRSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16s_C1RSfs(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16s_C1IRSfs(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16s_C1RSfs_L(const Kro16s* pSrc1, int64_t src1Step, const Kro16s* pSrc2, int64_t src2Step, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16s_C1IRSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16s_C3RSfs(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16s_C3IRSfs(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16s_C3RSfs_L(const Kro16s* pSrc1, int64_t src1Step, const Kro16s* pSrc2, int64_t src2Step, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16s_C3IRSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16s_C4RSfs(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16s_C4IRSfs(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16s_C4RSfs_L(const Kro16s* pSrc1, int64_t src1Step, const Kro16s* pSrc2, int64_t src2Step, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16s_C4IRSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16s_AC4RSfs(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16s_AC4IRSfs(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16s_AC4RSfs_L(const Kro16s* pSrc1, int64_t src1Step, const Kro16s* pSrc2, int64_t src2Step, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
+KroStatus kroiDiv_Round_16s_AC4IRSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, KroRoundMode rndMode, int scaleFactor);
 
 /* end of section ARITH */
 

@@ -21,6 +21,10 @@ int runPngRoundtrip(const Args& args); // roundtrip.cpp
 // section COPYSET
 // end of section COPYSET
 // section ARITH
+int runArithAdd(const Args& args); // arith.cpp
+int runArithSub(const Args& args); // arith.cpp
+int runArithMul(const Args& args); // arith.cpp
+int runArithDiv(const Args& args); // arith.cpp
 // end of section ARITH
 // section ARITHC
 int runAnd(const Args& args);   // arithc.cpp

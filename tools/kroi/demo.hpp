@@ -99,6 +99,10 @@ std::span<const DemoEntry> demoEntries();
 // section COPYSET
 // end of section COPYSET
 // section ARITH
+Image demoArithAdd(DemoContext& ctx);
+Image demoArithSub(DemoContext& ctx);
+Image demoArithMul(DemoContext& ctx);
+Image demoArithDiv(DemoContext& ctx);
 // end of section ARITH
 // section ARITHC
 Image demoNot(DemoContext& ctx);     // demo_arithc.cpp

@@ -111,6 +111,10 @@ constexpr DemoEntry kEntries[] = {
     // section COPYSET
     // end of section COPYSET
     // section ARITH
+    {"add-8u-c3-half", "kroiAdd_8u_C3RSfs(second, step2, scene, step1, dst, step, {512, 384}, 1)", demoArithAdd},
+    {"sub-8u-c3", "kroiSub_8u_C3RSfs(second, step2, scene, step1, dst, step, {512, 384}, 0)", demoArithSub},
+    {"mul-8u-c3-s8", "kroiMul_8u_C3RSfs(second, step2, scene, step1, dst, step, {512, 384}, 8)", demoArithMul},
+    {"div-8u-c3-s-6", "kroiDiv_8u_C3RSfs(second, step2, scene, step1, dst, step, {512, 384}, -6)", demoArithDiv},
     // end of section ARITH
     // section ARITHC
     {"not-8u-c3", "kroiNot_8u_C3R(src, srcStep, dst, dstStep, {512, 384})", demoNot},

@@ -34,6 +34,22 @@ constexpr Command kCommands[] = {
     // section COPYSET
     // end of section COPYSET
     // section ARITH
+    {"add",
+     "kroi add A.png B.png OUT.png [--scale S]\n"
+     "    OUT = A + B, times 2^-S (default 0), ties to even, saturated; 8- or 16-bit images",
+     runArithAdd},
+    {"sub",
+     "kroi sub A.png B.png OUT.png [--scale S]\n"
+     "    OUT = A - B (negative gives 0), times 2^-S (default 0), ties to even, saturated; 8- or 16-bit images",
+     runArithSub},
+    {"mul",
+     "kroi mul A.png B.png OUT.png [--scale S]\n"
+     "    OUT = A x B, times 2^-S (default 0), ties to even, saturated; 8- or 16-bit images",
+     runArithMul},
+    {"div",
+     "kroi div A.png B.png OUT.png [--scale S]\n"
+     "    OUT = A / B (x / 0 gives the maximum, 0 / 0 gives 0), times 2^-S (default 0), ties to even, saturated; 8- or 16-bit images",
+     runArithDiv},
     // end of section ARITH
     // section ARITHC
     {"and", "kroi and A.png (B.png | VALUE) OUT.png\n    bitwise And with a second image of the same size and type, or with a constant", runAnd},
