@@ -5,7 +5,7 @@
 #include "frame/bind.hpp"
 #include "frame/check.hpp"
 
-namespace KROI_TIER::arith {
+namespace KROI_TIER::logic {
 
 template <class Bit, class T, class Lay>
 KroStatus bitwise(const T* a, int sa, const T* b, int sb, T* d, int sd, KroiSize roi)
@@ -74,7 +74,7 @@ KroStatus complementI(T* sd, int sds, KroiSize roi)
     return complement<T, Lay>(sd, sds, sd, sds, roi);
 }
 
-}  // namespace KROI_TIER::arith
+}  // namespace KROI_TIER::logic
 
 // The list names template arguments relative to the tier namespace too.
 using namespace KROI_TIER;

@@ -36,7 +36,7 @@ KROI_INTERNAL(kroiCopy_32s_C3R)
 KROI_INTERNAL(kroiCopy_32s_C4R)
 KROI_INTERNAL(kroiCopy_32s_AC4R)
 
-namespace KROI_TIER::arith {
+namespace KROI_TIER::logic {
 
 // The integer type of the same size whose Set and Copy serve T.
 template <class T>
@@ -95,4 +95,4 @@ KroStatus copyImage(const T* s, int ss, T* d, int sd, KroiSize roi)
     }
 }
 
-}  // namespace KROI_TIER::arith
+}  // namespace KROI_TIER::logic

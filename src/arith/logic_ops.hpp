@@ -9,7 +9,7 @@
 
 #include "arith/logic_rows.hpp"
 
-namespace KROI_TIER::arith {
+namespace KROI_TIER::logic {
 
 // ---- element-wise bit operations ----------------------------------------------------------
 
@@ -163,4 +163,4 @@ struct ChannelShift {
     }
 };
 
-}  // namespace KROI_TIER::arith
+}  // namespace KROI_TIER::logic

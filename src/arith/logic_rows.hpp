@@ -20,7 +20,7 @@
 #include "krocore.h"
 #include "frame/rows.hpp"
 
-namespace KROI_TIER::arith {
+namespace KROI_TIER::logic {
 
 // Elements per pixel, and whether the fourth element is alpha, left as it was.
 template <int E, bool Alpha>
@@ -189,4 +189,4 @@ void imageBinary(const T* a, int sa, const T* b, int sb, T* d, int sd, KroiSize 
     if (stream) _mm_sfence();
 }
 
-}  // namespace KROI_TIER::arith
+}  // namespace KROI_TIER::logic

@@ -9,7 +9,7 @@
 #include "frame/bind.hpp"
 #include "frame/check.hpp"
 
-namespace KROI_TIER::arith {
+namespace KROI_TIER::logic {
 
 // What a shift makes of its extreme counts.
 template <class Sh, class T>
@@ -53,7 +53,7 @@ KroStatus shiftCI(ChannelArg<Kro32u, Lay> count, T* sd, int sds, KroiSize roi)
     return shiftC<Sh, T, Lay>(sd, sds, count, sd, sds, roi);
 }
 
-}  // namespace KROI_TIER::arith
+}  // namespace KROI_TIER::logic
 
 // The list names template arguments relative to the tier namespace too.
 using namespace KROI_TIER;
