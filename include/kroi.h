@@ -771,6 +771,309 @@ KroStatus kroiDiv_Round_16s_AC4IRSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro1
  * ======================================================================================= */
 /* section ARITHC */
 /* ---------------------------------------------------------------------------------------
+ * Arithmetic with constants: AddC, SubC, MulC, DivC.
+ *
+ *   kroiAddC  dst = src + value       kroiSubC  dst = src - value
+ *   kroiMulC  dst = src x value       kroiDivC  dst = src / value
+ * The constant stands on the right (unlike the two-image Sub and Div, whose first image is
+ * the subtrahend and the divisor).  C1 takes one value; C3 and AC4 an array of three, C4 of
+ * four, one per channel.  In place (IR): (value, pSrcDst, srcDstStep, roiSize[, scale]).
+ * AC4 computes the first three channels and never writes the fourth, also where a shortcut
+ * below copies or fills.
+ *
+ * Integer forms (8u, 16u, 16s, Sfs) follow the two-image arithmetic's rule exactly, with the
+ * constant in place of the second element: exact result times 2^-scaleFactor, rounded to
+ * nearest with ties to even, saturated; and the same kernel choice by scale factor, with the
+ * same fills of 0 through kroiSet where the scale factor makes every result 0 (AddC 8u above
+ * 9, SubC 8u above 8, MulC 8u above 16, AddC and SubC 16s above 16, MulC 16s above 30,
+ * AddC 16u above 17, SubC 16u above 16, MulC 16u above 32).  DivC is exact: the quotient
+ * src / value times 2^-scaleFactor, rounded to nearest with ties to even, saturated.
+ * Shortcuts before any arithmetic, integer forms only; each gives the rule's result:
+ *   - AddC and SubC with every value 0, MulC and DivC with every value 1, at scale factor 0:
+ *     the source is copied through kroiCopy of the same layout (16u through 16s) and its
+ *     status returned (in place nothing is done);
+ *   - MulC with every value 0, at any scale factor: the destination is filled with 0
+ *     through kroiSet;
+ *   - DivC with every value 1 is MulC by 1 at the same scale factor.
+ * 32f forms: one IEEE single-precision operation per element, with no shortcuts (so that
+ * -0 + 0 gives +0 and infinity x 0 gives NaN as IEEE arithmetic does).
+ *
+ * Checks, in this order; the first failure is returned and nothing is written:
+ *   AddC, SubC, MulC: null pSrc, pDst (pSrcDst) or value array: kroStsNullPointerErr (-8);
+ *     width or height < 1: kroStsBadSizeErr (-6).  Steps are not checked: any step,
+ *     negative and zero included, is used as given.
+ *   DivC: pointers (-8); size (-6); any step < 1: kroStsBadStepErr (-16); a value of 0 in
+ *     any computed channel (32f: +0 or -0 too): kroStsZeroDivisorErr (-10).  A division by
+ *     zero is always this error, never a warning.
+ * _L forms: 64-bit steps and KroiSizeL.  When every |step| and |width x height| are below
+ *   0x7FFFFFFF the call goes to the 32-bit form with the same arguments narrowed, and returns
+ *   its status.  Otherwise a height below 1 returns 0; each row is cut into pieces of at
+ *   most 0x3FFFFFFF pixels, and each piece runs through the one-row operation, which checks
+ *   its pointers, its length (-6) and, for DivC, the divisor (-10); the first error ends the
+ *   call (earlier rows stay written), otherwise the last piece's status is returned.
+ * Status: 0, or the error; a fill or copy returns the status of kroiSet or kroiCopy.
+ * ------------------------------------------------------------------------------------- */
+KroStatus kroiAddC_8u_C1RSfs(const Kro8u* pSrc, int srcStep, Kro8u value, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_C1IRSfs(Kro8u value, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_C1RSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u value, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_C1IRSfs_L(Kro8u value, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_C3RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_C3IRSfs(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_C3RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[3], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_C3IRSfs_L(const Kro8u value[3], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_C4RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_C4IRSfs(const Kro8u value[4], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_C4RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[4], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_C4IRSfs_L(const Kro8u value[4], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_AC4RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_AC4IRSfs(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_AC4RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[3], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_AC4IRSfs_L(const Kro8u value[3], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C1RSfs(const Kro16u* pSrc, int srcStep, Kro16u value, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C1IRSfs(Kro16u value, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C1RSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u value, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C1IRSfs_L(Kro16u value, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C3RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C3IRSfs(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C3RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[3], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C3IRSfs_L(const Kro16u value[3], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C4RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[4], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C4IRSfs(const Kro16u value[4], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C4RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[4], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C4IRSfs_L(const Kro16u value[4], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_AC4RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_AC4IRSfs(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_AC4RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[3], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_AC4IRSfs_L(const Kro16u value[3], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C1RSfs(const Kro16s* pSrc, int srcStep, Kro16s value, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C1IRSfs(Kro16s value, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C1RSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s value, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C1IRSfs_L(Kro16s value, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C3RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C3IRSfs(const Kro16s value[3], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C3RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[3], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C3IRSfs_L(const Kro16s value[3], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C4RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[4], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C4IRSfs(const Kro16s value[4], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C4RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[4], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C4IRSfs_L(const Kro16s value[4], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_AC4RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_AC4IRSfs(const Kro16s value[3], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_AC4RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[3], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_AC4IRSfs_L(const Kro16s value[3], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f value, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAddC_32f_C1IR(Kro32f value, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAddC_32f_C1R_L(const Kro32f* pSrc, int64_t srcStep, Kro32f value, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiAddC_32f_C1IR_L(Kro32f value, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiAddC_32f_C3R(const Kro32f* pSrc, int srcStep, const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAddC_32f_C3IR(const Kro32f value[3], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAddC_32f_C3R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[3], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiAddC_32f_C3IR_L(const Kro32f value[3], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiAddC_32f_C4R(const Kro32f* pSrc, int srcStep, const Kro32f value[4], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAddC_32f_C4IR(const Kro32f value[4], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAddC_32f_C4R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[4], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiAddC_32f_C4IR_L(const Kro32f value[4], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiAddC_32f_AC4R(const Kro32f* pSrc, int srcStep, const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAddC_32f_AC4IR(const Kro32f value[3], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAddC_32f_AC4R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[3], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiAddC_32f_AC4IR_L(const Kro32f value[3], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+
+KroStatus kroiSubC_8u_C1RSfs(const Kro8u* pSrc, int srcStep, Kro8u value, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_C1IRSfs(Kro8u value, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_C1RSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u value, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_C1IRSfs_L(Kro8u value, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_C3RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_C3IRSfs(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_C3RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[3], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_C3IRSfs_L(const Kro8u value[3], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_C4RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_C4IRSfs(const Kro8u value[4], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_C4RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[4], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_C4IRSfs_L(const Kro8u value[4], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_AC4RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_AC4IRSfs(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_AC4RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[3], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_AC4IRSfs_L(const Kro8u value[3], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C1RSfs(const Kro16u* pSrc, int srcStep, Kro16u value, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C1IRSfs(Kro16u value, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C1RSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u value, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C1IRSfs_L(Kro16u value, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C3RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C3IRSfs(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C3RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[3], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C3IRSfs_L(const Kro16u value[3], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C4RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[4], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C4IRSfs(const Kro16u value[4], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C4RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[4], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C4IRSfs_L(const Kro16u value[4], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_AC4RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_AC4IRSfs(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_AC4RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[3], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_AC4IRSfs_L(const Kro16u value[3], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C1RSfs(const Kro16s* pSrc, int srcStep, Kro16s value, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C1IRSfs(Kro16s value, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C1RSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s value, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C1IRSfs_L(Kro16s value, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C3RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C3IRSfs(const Kro16s value[3], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C3RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[3], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C3IRSfs_L(const Kro16s value[3], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C4RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[4], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C4IRSfs(const Kro16s value[4], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C4RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[4], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C4IRSfs_L(const Kro16s value[4], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_AC4RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_AC4IRSfs(const Kro16s value[3], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_AC4RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[3], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_AC4IRSfs_L(const Kro16s value[3], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f value, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSubC_32f_C1IR(Kro32f value, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiSubC_32f_C1R_L(const Kro32f* pSrc, int64_t srcStep, Kro32f value, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiSubC_32f_C1IR_L(Kro32f value, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiSubC_32f_C3R(const Kro32f* pSrc, int srcStep, const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSubC_32f_C3IR(const Kro32f value[3], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiSubC_32f_C3R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[3], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiSubC_32f_C3IR_L(const Kro32f value[3], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiSubC_32f_C4R(const Kro32f* pSrc, int srcStep, const Kro32f value[4], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSubC_32f_C4IR(const Kro32f value[4], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiSubC_32f_C4R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[4], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiSubC_32f_C4IR_L(const Kro32f value[4], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiSubC_32f_AC4R(const Kro32f* pSrc, int srcStep, const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSubC_32f_AC4IR(const Kro32f value[3], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiSubC_32f_AC4R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[3], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiSubC_32f_AC4IR_L(const Kro32f value[3], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+
+KroStatus kroiMulC_8u_C1RSfs(const Kro8u* pSrc, int srcStep, Kro8u value, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_C1IRSfs(Kro8u value, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_C1RSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u value, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_C1IRSfs_L(Kro8u value, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_C3RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_C3IRSfs(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_C3RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[3], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_C3IRSfs_L(const Kro8u value[3], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_C4RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_C4IRSfs(const Kro8u value[4], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_C4RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[4], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_C4IRSfs_L(const Kro8u value[4], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_AC4RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_AC4IRSfs(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_AC4RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[3], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_AC4IRSfs_L(const Kro8u value[3], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C1RSfs(const Kro16u* pSrc, int srcStep, Kro16u value, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C1IRSfs(Kro16u value, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C1RSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u value, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C1IRSfs_L(Kro16u value, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C3RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C3IRSfs(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C3RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[3], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C3IRSfs_L(const Kro16u value[3], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C4RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[4], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C4IRSfs(const Kro16u value[4], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C4RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[4], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C4IRSfs_L(const Kro16u value[4], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_AC4RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_AC4IRSfs(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_AC4RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[3], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_AC4IRSfs_L(const Kro16u value[3], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C1RSfs(const Kro16s* pSrc, int srcStep, Kro16s value, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C1IRSfs(Kro16s value, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C1RSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s value, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C1IRSfs_L(Kro16s value, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C3RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C3IRSfs(const Kro16s value[3], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C3RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[3], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C3IRSfs_L(const Kro16s value[3], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C4RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[4], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C4IRSfs(const Kro16s value[4], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C4RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[4], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C4IRSfs_L(const Kro16s value[4], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_AC4RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_AC4IRSfs(const Kro16s value[3], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_AC4RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[3], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_AC4IRSfs_L(const Kro16s value[3], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f value, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiMulC_32f_C1IR(Kro32f value, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMulC_32f_C1R_L(const Kro32f* pSrc, int64_t srcStep, Kro32f value, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiMulC_32f_C1IR_L(Kro32f value, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiMulC_32f_C3R(const Kro32f* pSrc, int srcStep, const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiMulC_32f_C3IR(const Kro32f value[3], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMulC_32f_C3R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[3], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiMulC_32f_C3IR_L(const Kro32f value[3], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiMulC_32f_C4R(const Kro32f* pSrc, int srcStep, const Kro32f value[4], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiMulC_32f_C4IR(const Kro32f value[4], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMulC_32f_C4R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[4], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiMulC_32f_C4IR_L(const Kro32f value[4], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiMulC_32f_AC4R(const Kro32f* pSrc, int srcStep, const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiMulC_32f_AC4IR(const Kro32f value[3], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMulC_32f_AC4R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[3], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiMulC_32f_AC4IR_L(const Kro32f value[3], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+
+KroStatus kroiDivC_8u_C1RSfs(const Kro8u* pSrc, int srcStep, Kro8u value, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_C1IRSfs(Kro8u value, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_C1RSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u value, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_C1IRSfs_L(Kro8u value, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_C3RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_C3IRSfs(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_C3RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[3], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_C3IRSfs_L(const Kro8u value[3], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_C4RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_C4IRSfs(const Kro8u value[4], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_C4RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[4], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_C4IRSfs_L(const Kro8u value[4], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_AC4RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_AC4IRSfs(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_AC4RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[3], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_AC4IRSfs_L(const Kro8u value[3], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C1RSfs(const Kro16u* pSrc, int srcStep, Kro16u value, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C1IRSfs(Kro16u value, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C1RSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u value, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C1IRSfs_L(Kro16u value, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C3RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C3IRSfs(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C3RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[3], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C3IRSfs_L(const Kro16u value[3], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C4RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[4], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C4IRSfs(const Kro16u value[4], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C4RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[4], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C4IRSfs_L(const Kro16u value[4], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_AC4RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_AC4IRSfs(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_AC4RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[3], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_AC4IRSfs_L(const Kro16u value[3], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C1RSfs(const Kro16s* pSrc, int srcStep, Kro16s value, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C1IRSfs(Kro16s value, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C1RSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s value, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C1IRSfs_L(Kro16s value, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C3RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C3IRSfs(const Kro16s value[3], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C3RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[3], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C3IRSfs_L(const Kro16s value[3], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C4RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[4], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C4IRSfs(const Kro16s value[4], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C4RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[4], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C4IRSfs_L(const Kro16s value[4], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_AC4RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_AC4IRSfs(const Kro16s value[3], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_AC4RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[3], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_AC4IRSfs_L(const Kro16s value[3], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f value, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiDivC_32f_C1IR(Kro32f value, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiDivC_32f_C1R_L(const Kro32f* pSrc, int64_t srcStep, Kro32f value, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiDivC_32f_C1IR_L(Kro32f value, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiDivC_32f_C3R(const Kro32f* pSrc, int srcStep, const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiDivC_32f_C3IR(const Kro32f value[3], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiDivC_32f_C3R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[3], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiDivC_32f_C3IR_L(const Kro32f value[3], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiDivC_32f_C4R(const Kro32f* pSrc, int srcStep, const Kro32f value[4], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiDivC_32f_C4IR(const Kro32f value[4], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiDivC_32f_C4R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[4], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiDivC_32f_C4IR_L(const Kro32f value[4], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiDivC_32f_AC4R(const Kro32f* pSrc, int srcStep, const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiDivC_32f_AC4IR(const Kro32f value[3], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiDivC_32f_AC4R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[3], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiDivC_32f_AC4IR_L(const Kro32f value[3], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+
+/* ---------------------------------------------------------------------------------------
  * Bitwise logic: And, Or, Xor, their constant forms, Not and Complement.
  *
  * Types 8u, 16u, 32s (Not: 8u; Complement: 8s, 16s, 32s), each in C1, C3, C4 and AC4, out

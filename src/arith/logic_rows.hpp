@@ -31,6 +31,8 @@ struct Layout {
     // Vectors per repetition of a per-channel pattern: 16 bytes hold whole pixels of every
     // type up to 32 bits except for three channels, which repeat every three vectors.
     static constexpr int kPhases = E == 3 ? 3 : 1;
+    // The same layout as the arithmetic names it, for the shared fills and copies.
+    static constexpr int kArith = E == 1 ? 1 : E == 3 ? 3 : Alpha ? 5 : 4;
 };
 using LayC1 = Layout<1, false>;
 using LayC3 = Layout<3, false>;

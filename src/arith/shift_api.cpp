@@ -38,8 +38,8 @@ KroStatus shiftC(const T* s, int ss, ChannelArg<Kro32u, Lay> count, T* d, int sd
         allEmpty = allEmpty && c[ch] >= Sh::kBits;
         allZero = allZero && c[ch] == 0;
     }
-    if (ShiftRule<Sh, T>::kFills && allEmpty) return fillZero<T, Lay>(d, sd, roi);
-    if (ShiftRule<Sh, T>::kCopiesAtZero && allZero) return copyImage<T, Lay>(s, ss, d, sd, roi);
+    if (ShiftRule<Sh, T>::kFills && allEmpty) return fill::fillZero<T, arith::Layout(Lay::kArith)>(d, sd, roi);
+    if (ShiftRule<Sh, T>::kCopiesAtZero && allZero) return fill::copyImage<T, arith::Layout(Lay::kArith)>(s, ss, d, sd, roi);
     if (allEqual)
         imageUnary<T, Lay>(s, ss, d, sd, roi, UniformShift<Sh, T>(c[0]));
     else

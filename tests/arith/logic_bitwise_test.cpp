@@ -267,7 +267,7 @@ template <class T, std::size_t N>
 void checkOrder(const ConstMember<T, T> (&members)[N])
 {
     const T k[4] = {1, 2, 3, 4};
-    expectCheckOrder(members, k);
+    expectCheckOrder(members, k, logicOrder());
 }
 template <class T, std::size_t N>
 void checkOrder(const UnaryMember<T> (&members)[N])

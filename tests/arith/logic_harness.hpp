@@ -28,12 +28,14 @@ P pass(const ValueOf<P>* v)
     else return *v;
 }
 
-// f(pSrc, srcStep, value, pDst, dstStep, roi[, more...]) called with the value as an array.
+// f(pSrc, srcStep, value, pDst, dstStep, roi[, more...]) called with the value as an array;
+// the steps and size may be the 32-bit or the 64-bit ones.
 template <auto F>
 struct ConstR;
-template <class S, class P, class D, class... More, KroStatus (*F)(const S*, int, P, D*, int, KroiSize, More...)>
+template <class S, class P, class D, class St, class Sz, class... More,
+          KroStatus (*F)(const S*, St, P, D*, St, Sz, More...)>
 struct ConstR<F> {
-    static KroStatus call(const S* s, int ss, const ValueOf<P>* v, D* d, int sd, KroiSize r, More... m)
+    static KroStatus call(const S* s, St ss, const ValueOf<P>* v, D* d, St sd, Sz r, More... m)
     {
         return F(s, ss, pass<P>(v), d, sd, r, m...);
     }
@@ -41,9 +43,9 @@ struct ConstR<F> {
 // f(value, pSrcDst, srcDstStep, roi[, more...]) likewise.
 template <auto F>
 struct ConstI;
-template <class P, class D, class... More, KroStatus (*F)(P, D*, int, KroiSize, More...)>
+template <class P, class D, class St, class Sz, class... More, KroStatus (*F)(P, D*, St, Sz, More...)>
 struct ConstI<F> {
-    static KroStatus call(const ValueOf<P>* v, D* d, int sd, KroiSize r, More... m) { return F(pass<P>(v), d, sd, r, m...); }
+    static KroStatus call(const ValueOf<P>* v, D* d, St sd, Sz r, More... m) { return F(pass<P>(v), d, sd, r, m...); }
 };
 
 // ---- member rows: a name, channels per pixel, channels computed, out-of-place and in-place -
@@ -57,6 +59,7 @@ struct BinMember {
 };
 template <class T, class V, class... More>
 struct ConstMember {
+    using Elem = T;
     const char* name;
     int channels, written;
     KroStatus (*r)(const T*, int, const V*, T*, int, KroiSize, More...);
@@ -149,10 +152,11 @@ void sweepUnary(const std::string& name, int channels, int written, const UnaryR
 }
 
 // A member with constants `k` (and trailing arguments such as a scale factor), both forms.
-template <class T, class V, class... More, class Want>
-void sweepConst(const ConstMember<T, V, More...>& m, const V* k, Want&& want, Rng& rng, bool negativeSteps,
-                const std::vector<int>& widths, More... more)
+template <class M, class V, class Want, class... More>
+void sweepConst(const M& m, const V* k, Want&& want, Rng& rng, bool negativeSteps, const std::vector<int>& widths,
+                More... more)
 {
+    using T = typename M::Elem;
     sweepUnary<T>(m.name, m.channels, m.written,
                   [&](const T* s, int ss, T* d, int sd, KroiSize r) { return m.r(s, ss, k, d, sd, r, more...); },
                   [&](T* sd, int sds, KroiSize r) { return m.i(k, sd, sds, r, more...); }, want, rng, anyValue<T>(),
@@ -233,20 +237,23 @@ inline const std::vector<BadCall>& logicOrder()
     return cases;
 }
 
-// A member with constants through the check order, out of place and in place, with the
-// constants `k`; members with an array of constants also get a null array.
-template <class T, class V, std::size_t N>
-void expectCheckOrder(const ConstMember<T, V> (&members)[N], const V (&k)[4])
+// Members with constants through a check order, out of place and in place, with the
+// constants `k` (and trailing arguments `more`); members with an array of constants also get
+// a null array.
+template <class Members, class V, class... More>
+void expectCheckOrder(const Members& members, const V (&k)[4], const std::vector<BadCall>& cases, More... more)
 {
     for (const auto& m : members) {
-        expectCheckOrder<T>(m.name, m.channels, logicOrder(),
-                            [&](const T* s, int st, T* d, int sd, KroiSize r) { return m.r(s, st, k, d, sd, r); });
-        expectCheckOrder<T>(m.name, m.channels, logicOrder(),
-                            [&](const T* s, int, T* d, int sd, KroiSize r) { return m.i(k, s ? d : nullptr, sd, r); });
+        using T = typename std::remove_cvref_t<decltype(m)>::Elem;
+        expectCheckOrder<T>(m.name, m.channels, cases,
+                            [&](const T* s, int st, T* d, int sd, KroiSize r) { return m.r(s, st, k, d, sd, r, more...); });
+        expectCheckOrder<T>(m.name, m.channels, cases, [&](const T* s, int, T* d, int sd, KroiSize r) {
+            return m.i(k, s ? d : nullptr, sd, r, more...);
+        });
         if (m.channels > 1) {
             Guarded<T> a(2, 2, m.channels), b(2, 2, m.channels);
-            EXPECT_EQ(m.r(a.ptr(), 0, nullptr, b.ptr(), 0, {0, 0}), kroStsNullPointerErr) << m.name;
-            EXPECT_EQ(m.i(nullptr, b.ptr(), 0, {0, 0}), kroStsNullPointerErr) << m.name;
+            EXPECT_EQ(m.r(a.ptr(), 0, nullptr, b.ptr(), 0, {0, 0}, more...), kroStsNullPointerErr) << m.name;
+            EXPECT_EQ(m.i(nullptr, b.ptr(), 0, {0, 0}, more...), kroStsNullPointerErr) << m.name;
         }
     }
 }

@@ -146,7 +146,7 @@ void checkOrder(const ConstMember<T, Kro32u> (&members)[N])
 {
     for (uint32_t c : {0u, 1u, 40u}) {
         const Kro32u k[4] = {c, c, c, c};
-        expectCheckOrder(members, k);
+        expectCheckOrder(members, k, logicOrder());
     }
 }
 
