@@ -19,6 +19,36 @@ struct Unary {
 #endif
 };
 
+struct AddC8u : Unary {
+    explicit AddC8u(kb::Size s) : Unary(s, Depth::u8, 14) {}
+    KroStatus kroi() { return kroiAddC_8u_C1RSfs(src.ptr(), src.step(), 37, dst.ptr(), dst.step(), src.roi(), 0); }
+#ifdef KROI_HAVE_OPENCV
+    void opencv() { cv::add(A, cv::Scalar(37), D); }
+#endif
+};
+
+struct MulC32f : Unary {
+    explicit MulC32f(kb::Size s) : Unary(s, Depth::f32, 15) {}
+    KroStatus kroi()
+    {
+        return kroiMulC_32f_C1R(src.ptr<Kro32f>(), src.step(), 1.5f, dst.ptr<Kro32f>(), dst.step(), src.roi());
+    }
+#ifdef KROI_HAVE_OPENCV
+    void opencv() { cv::multiply(A, cv::Scalar(1.5), D); }
+#endif
+};
+
+struct SubC16s : Unary {
+    explicit SubC16s(kb::Size s) : Unary(s, Depth::s16, 16) {}
+    KroStatus kroi()
+    {
+        return kroiSubC_16s_C1RSfs(src.ptr<Kro16s>(), src.step(), 1000, dst.ptr<Kro16s>(), dst.step(), src.roi(), 0);
+    }
+#ifdef KROI_HAVE_OPENCV
+    void opencv() { cv::subtract(A, cv::Scalar(1000), D); }
+#endif
+};
+
 struct AndC8u : Unary {
     explicit AndC8u(kb::Size s) : Unary(s, Depth::u8, 11) {}
     KroStatus kroi() { return kroiAndC_8u_C1R(src.ptr(), src.step(), 0x5A, dst.ptr(), dst.step(), src.roi()); }
@@ -49,6 +79,9 @@ struct RShiftC16s : Unary {
 };
 
 const bool registered = [] {
+    kb::addCase<AddC8u>("ArithC/AddC_8u_C1", kSizes);
+    kb::addCase<MulC32f>("ArithC/MulC_32f_C1", kSizes);
+    kb::addCase<SubC16s>("ArithC/SubC_16s_C1", kSizes);
     kb::addCase<AndC8u>("ArithC/AndC_8u_C1", kSizes);
     kb::addCase<Not8u>("ArithC/Not_8u_C1", kSizes);
     kb::addCase<RShiftC16s>("ArithC/RShiftC_16s_C1", kSizes);
