@@ -31,6 +31,8 @@ int runAnd(const Args& args);   // arithc.cpp
 int runXor(const Args& args);   // arithc.cpp
 int runNot(const Args& args);   // arithc.cpp
 int runShift(const Args& args); // arithc.cpp
+int runAddC(const Args& args);  // arithc.cpp
+int runMulC(const Args& args);  // arithc.cpp
 // end of section ARITHC
 // section CONVERT
 // end of section CONVERT

@@ -18,6 +18,26 @@ Frame frame(DemoContext& ctx) { return {ctx.first(), Image(ctx.first().width, ct
 
 } // namespace
 
+Image demoAddC(DemoContext& ctx)
+{
+    Frame f = frame(ctx);
+    const Kro8u add[3] = {60, 40, 0};
+    ctx.time("kroiAddC_8u_C3RSfs",
+             [&] { return kroiAddC_8u_C3RSfs(f.s(), f.src.step, add, f.d(), f.dst.step, f.roi(), 0); });
+    ctx.note = "Red raised by 60 and green by 40, saturating at 255: a warmer, brighter scene.";
+    return std::move(f.dst);
+}
+
+Image demoMulC(DemoContext& ctx)
+{
+    Frame f = frame(ctx);
+    const Kro8u mul[3] = {3, 3, 3};
+    ctx.time("kroiMulC_8u_C3RSfs",
+             [&] { return kroiMulC_8u_C3RSfs(f.s(), f.src.step, mul, f.d(), f.dst.step, f.roi(), 1); });
+    ctx.note = "Every sample times 3 / 2 (scale factor 1), halves rounded to even, saturated.";
+    return std::move(f.dst);
+}
+
 Image demoNot(DemoContext& ctx)
 {
     Frame f = frame(ctx);
