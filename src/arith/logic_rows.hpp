@@ -15,9 +15,9 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "arith/arith_kernels.hpp"
 #include "frame/base.hpp"
 #include "frame/check.hpp"
-#include "krocore.h"
 #include "frame/rows.hpp"
 
 namespace KROI_TIER::logic {
@@ -98,16 +98,6 @@ struct ChannelVectors {
     }
 };
 
-// Whether the destination of an out-of-place call is written past the caches.  When source
-// and destination together outgrow half the largest cache, the result is evicted before
-// anyone reads it, and streaming stores save reading every destination line first.
-inline bool streamStores(int64_t bytesTouched)
-{
-    if (bytesTouched < (int64_t{1} << 22)) return false;
-    int cache = 0;
-    return kroGetMaxCacheSizeB(&cache) == kroStsOk && bytesTouched >= cache / 2;
-}
-
 // The vector bulk of a row: blocks of four vectors (one pattern period of three for C3),
 // AC4 alpha lanes restored from the destination, streaming stores when asked for (the
 // destination is then 16-byte aligned).  `vec(i, phase)` computes the vector at element i.
@@ -134,8 +124,7 @@ template <class T, class Lay, bool Stream, class Vec>
 template <class T, class Lay, class Vec>
 [[gnu::always_inline]] inline long bulk(T* d, long n, bool stream, Vec vec)
 {
-    if (stream && (reinterpret_cast<uintptr_t>(d) & 15) == 0) return bulk<T, Lay, true>(d, n, vec);
-    return bulk<T, Lay, false>(d, n, vec);
+    return stream ? bulk<T, Lay, true>(d, n, vec) : bulk<T, Lay, false>(d, n, vec);
 }
 
 // d[i] = op(s[i]) over n elements of a Lay row.
@@ -159,14 +148,18 @@ void rowBinary(const T* a, const T* b, T* d, long n, const Op& opArg, bool strea
 }
 
 // The image walks: the whole ROI as one row when the rows touch end to end, else row by row.
+// Out of place, a destination is written past the caches on the arithmetic's terms (the
+// images outgrow the largest cache, every destination row starts on 16 bytes).
 template <class T, class Lay, class Op>
 void imageUnary(const T* s, int ss, T* d, int sd, KroiSize roi, const Op& op)
 {
     const long n = long(roi.width) * Lay::kElems;
-    const bool stream = static_cast<const void*>(s) != d && streamStores(2 * n * roi.height * long(sizeof(T)));
     const auto is = rows::image(s, ss);
     const auto id = rows::image(d, sd);
-    if (rows::merged(std::ptrdiff_t(n * sizeof(T)), is, id))
+    const bool merge = rows::merged(std::ptrdiff_t(n * sizeof(T)), is, id);
+    const bool stream = static_cast<const void*>(s) != d &&
+                        arith::streams(2 * n * roi.height * long(sizeof(T)), d, merge ? 0 : sd);
+    if (merge)
         rowUnary<T, Lay>(s, d, n * roi.height, op, stream);
     else
         rows::each(roi.width, roi.height, [&](const T* rs, T* rd, int) { rowUnary<T, Lay>(rs, rd, n, op, stream); }, is, id);
@@ -177,12 +170,13 @@ template <class T, class Lay, class Op>
 void imageBinary(const T* a, int sa, const T* b, int sb, T* d, int sd, KroiSize roi, const Op& op)
 {
     const long n = long(roi.width) * Lay::kElems;
-    const bool stream = static_cast<const void*>(a) != d && static_cast<const void*>(b) != d &&
-                        streamStores(3 * n * roi.height * long(sizeof(T)));
     const auto ia = rows::image(a, sa);
     const auto ib = rows::image(b, sb);
     const auto id = rows::image(d, sd);
-    if (rows::merged(std::ptrdiff_t(n * sizeof(T)), ia, ib, id))
+    const bool merge = rows::merged(std::ptrdiff_t(n * sizeof(T)), ia, ib, id);
+    const bool stream = static_cast<const void*>(a) != d && static_cast<const void*>(b) != d &&
+                        arith::streams(3 * n * roi.height * long(sizeof(T)), d, merge ? 0 : sd);
+    if (merge)
         rowBinary<T, Lay>(a, b, d, n * roi.height, op, stream);
     else
         rows::each(
