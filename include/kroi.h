@@ -952,6 +952,592 @@ KroStatus kroiDiv_Round_16s_AC4IRSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro1
  * Arithmetic with constants, logic and shifts
  * ======================================================================================= */
 /* section ARITHC */
+/* ---------------------------------------------------------------------------------------
+ * Arithmetic with constants: AddC, SubC, MulC, DivC.
+ *
+ *   kroiAddC  dst = src + value       kroiSubC  dst = src - value
+ *   kroiMulC  dst = src x value       kroiDivC  dst = src / value
+ * The constant stands on the right (unlike the two-image Sub and Div, whose first image is
+ * the subtrahend and the divisor).  C1 takes one value; C3 and AC4 an array of three, C4 of
+ * four, one per channel.  In place (IR): (value, pSrcDst, srcDstStep, roiSize[, scale]).
+ * AC4 computes the first three channels and never writes the fourth, also where a shortcut
+ * below copies or fills.
+ *
+ * Integer forms (8u, 16u, 16s, Sfs) follow the two-image arithmetic's rule exactly, with the
+ * constant in place of the second element: exact result times 2^-scaleFactor, rounded to
+ * nearest with ties to even, saturated; and the same kernel choice by scale factor, with the
+ * same fills of 0 through kroiSet where the scale factor makes every result 0 (AddC 8u above
+ * 9, SubC 8u above 8, MulC 8u above 16, AddC and SubC 16s above 16, MulC 16s above 30,
+ * AddC 16u above 17, SubC 16u above 16, MulC 16u above 32).  DivC is exact: the quotient
+ * src / value times 2^-scaleFactor, rounded to nearest with ties to even, saturated.
+ * Shortcuts before any arithmetic, integer forms only; each gives the rule's result:
+ *   - AddC and SubC with every value 0, MulC and DivC with every value 1, at scale factor 0:
+ *     the source is copied through kroiCopy of the same layout (16u through 16s) and its
+ *     status returned (in place nothing is done);
+ *   - MulC with every value 0, at any scale factor: the destination is filled with 0
+ *     through kroiSet;
+ *   - DivC with every value 1 is MulC by 1 at the same scale factor.
+ * 32f forms: one IEEE single-precision operation per element, with no shortcuts (so that
+ * -0 + 0 gives +0 and infinity x 0 gives NaN as IEEE arithmetic does).
+ *
+ * Checks, in this order; the first failure is returned and nothing is written:
+ *   AddC, SubC, MulC: null pSrc, pDst (pSrcDst) or value array: kroStsNullPointerErr (-8);
+ *     width or height < 1: kroStsBadSizeErr (-6).  Steps are not checked: any step,
+ *     negative and zero included, is used as given.
+ *   DivC: pointers (-8); size (-6); any step < 1: kroStsBadStepErr (-16); a value of 0 in
+ *     any computed channel (32f: +0 or -0 too): kroStsZeroDivisorErr (-10).  A division by
+ *     zero is always this error, never a warning.
+ * _L forms: 64-bit steps and KroiSizeL.  When every |step| and |width x height| are below
+ *   0x7FFFFFFF the call goes to the 32-bit form with the same arguments narrowed, and returns
+ *   its status.  Otherwise a height below 1 returns 0; each row is cut into pieces of at
+ *   most 0x3FFFFFFF pixels, and each piece runs through the one-row operation, which checks
+ *   its pointers, its length (-6) and, for DivC, the divisor (-10); the first error ends the
+ *   call (earlier rows stay written), otherwise the last piece's status is returned.
+ * Status: 0, or the error; a fill or copy returns the status of kroiSet or kroiCopy.
+ * ------------------------------------------------------------------------------------- */
+KroStatus kroiAddC_8u_C1RSfs(const Kro8u* pSrc, int srcStep, Kro8u value, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_C1IRSfs(Kro8u value, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_C1RSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u value, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_C1IRSfs_L(Kro8u value, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_C3RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_C3IRSfs(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_C3RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[3], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_C3IRSfs_L(const Kro8u value[3], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_C4RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_C4IRSfs(const Kro8u value[4], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_C4RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[4], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_C4IRSfs_L(const Kro8u value[4], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_AC4RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_AC4IRSfs(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_AC4RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[3], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_8u_AC4IRSfs_L(const Kro8u value[3], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C1RSfs(const Kro16u* pSrc, int srcStep, Kro16u value, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C1IRSfs(Kro16u value, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C1RSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u value, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C1IRSfs_L(Kro16u value, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C3RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C3IRSfs(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C3RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[3], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C3IRSfs_L(const Kro16u value[3], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C4RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[4], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C4IRSfs(const Kro16u value[4], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C4RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[4], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_C4IRSfs_L(const Kro16u value[4], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_AC4RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_AC4IRSfs(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_AC4RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[3], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16u_AC4IRSfs_L(const Kro16u value[3], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C1RSfs(const Kro16s* pSrc, int srcStep, Kro16s value, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C1IRSfs(Kro16s value, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C1RSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s value, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C1IRSfs_L(Kro16s value, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C3RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C3IRSfs(const Kro16s value[3], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C3RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[3], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C3IRSfs_L(const Kro16s value[3], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C4RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[4], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C4IRSfs(const Kro16s value[4], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C4RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[4], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_C4IRSfs_L(const Kro16s value[4], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_AC4RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_AC4IRSfs(const Kro16s value[3], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_AC4RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[3], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_16s_AC4IRSfs_L(const Kro16s value[3], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiAddC_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f value, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAddC_32f_C1IR(Kro32f value, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAddC_32f_C1R_L(const Kro32f* pSrc, int64_t srcStep, Kro32f value, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiAddC_32f_C1IR_L(Kro32f value, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiAddC_32f_C3R(const Kro32f* pSrc, int srcStep, const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAddC_32f_C3IR(const Kro32f value[3], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAddC_32f_C3R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[3], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiAddC_32f_C3IR_L(const Kro32f value[3], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiAddC_32f_C4R(const Kro32f* pSrc, int srcStep, const Kro32f value[4], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAddC_32f_C4IR(const Kro32f value[4], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAddC_32f_C4R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[4], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiAddC_32f_C4IR_L(const Kro32f value[4], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiAddC_32f_AC4R(const Kro32f* pSrc, int srcStep, const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAddC_32f_AC4IR(const Kro32f value[3], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAddC_32f_AC4R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[3], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiAddC_32f_AC4IR_L(const Kro32f value[3], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+
+KroStatus kroiSubC_8u_C1RSfs(const Kro8u* pSrc, int srcStep, Kro8u value, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_C1IRSfs(Kro8u value, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_C1RSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u value, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_C1IRSfs_L(Kro8u value, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_C3RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_C3IRSfs(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_C3RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[3], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_C3IRSfs_L(const Kro8u value[3], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_C4RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_C4IRSfs(const Kro8u value[4], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_C4RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[4], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_C4IRSfs_L(const Kro8u value[4], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_AC4RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_AC4IRSfs(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_AC4RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[3], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_8u_AC4IRSfs_L(const Kro8u value[3], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C1RSfs(const Kro16u* pSrc, int srcStep, Kro16u value, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C1IRSfs(Kro16u value, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C1RSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u value, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C1IRSfs_L(Kro16u value, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C3RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C3IRSfs(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C3RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[3], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C3IRSfs_L(const Kro16u value[3], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C4RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[4], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C4IRSfs(const Kro16u value[4], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C4RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[4], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_C4IRSfs_L(const Kro16u value[4], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_AC4RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_AC4IRSfs(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_AC4RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[3], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16u_AC4IRSfs_L(const Kro16u value[3], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C1RSfs(const Kro16s* pSrc, int srcStep, Kro16s value, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C1IRSfs(Kro16s value, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C1RSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s value, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C1IRSfs_L(Kro16s value, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C3RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C3IRSfs(const Kro16s value[3], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C3RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[3], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C3IRSfs_L(const Kro16s value[3], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C4RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[4], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C4IRSfs(const Kro16s value[4], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C4RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[4], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_C4IRSfs_L(const Kro16s value[4], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_AC4RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_AC4IRSfs(const Kro16s value[3], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_AC4RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[3], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_16s_AC4IRSfs_L(const Kro16s value[3], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiSubC_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f value, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSubC_32f_C1IR(Kro32f value, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiSubC_32f_C1R_L(const Kro32f* pSrc, int64_t srcStep, Kro32f value, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiSubC_32f_C1IR_L(Kro32f value, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiSubC_32f_C3R(const Kro32f* pSrc, int srcStep, const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSubC_32f_C3IR(const Kro32f value[3], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiSubC_32f_C3R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[3], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiSubC_32f_C3IR_L(const Kro32f value[3], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiSubC_32f_C4R(const Kro32f* pSrc, int srcStep, const Kro32f value[4], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSubC_32f_C4IR(const Kro32f value[4], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiSubC_32f_C4R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[4], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiSubC_32f_C4IR_L(const Kro32f value[4], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiSubC_32f_AC4R(const Kro32f* pSrc, int srcStep, const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSubC_32f_AC4IR(const Kro32f value[3], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiSubC_32f_AC4R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[3], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiSubC_32f_AC4IR_L(const Kro32f value[3], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+
+KroStatus kroiMulC_8u_C1RSfs(const Kro8u* pSrc, int srcStep, Kro8u value, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_C1IRSfs(Kro8u value, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_C1RSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u value, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_C1IRSfs_L(Kro8u value, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_C3RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_C3IRSfs(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_C3RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[3], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_C3IRSfs_L(const Kro8u value[3], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_C4RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_C4IRSfs(const Kro8u value[4], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_C4RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[4], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_C4IRSfs_L(const Kro8u value[4], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_AC4RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_AC4IRSfs(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_AC4RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[3], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_8u_AC4IRSfs_L(const Kro8u value[3], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C1RSfs(const Kro16u* pSrc, int srcStep, Kro16u value, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C1IRSfs(Kro16u value, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C1RSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u value, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C1IRSfs_L(Kro16u value, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C3RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C3IRSfs(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C3RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[3], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C3IRSfs_L(const Kro16u value[3], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C4RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[4], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C4IRSfs(const Kro16u value[4], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C4RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[4], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_C4IRSfs_L(const Kro16u value[4], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_AC4RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_AC4IRSfs(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_AC4RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[3], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16u_AC4IRSfs_L(const Kro16u value[3], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C1RSfs(const Kro16s* pSrc, int srcStep, Kro16s value, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C1IRSfs(Kro16s value, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C1RSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s value, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C1IRSfs_L(Kro16s value, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C3RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C3IRSfs(const Kro16s value[3], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C3RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[3], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C3IRSfs_L(const Kro16s value[3], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C4RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[4], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C4IRSfs(const Kro16s value[4], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C4RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[4], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_C4IRSfs_L(const Kro16s value[4], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_AC4RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_AC4IRSfs(const Kro16s value[3], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_AC4RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[3], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_16s_AC4IRSfs_L(const Kro16s value[3], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiMulC_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f value, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiMulC_32f_C1IR(Kro32f value, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMulC_32f_C1R_L(const Kro32f* pSrc, int64_t srcStep, Kro32f value, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiMulC_32f_C1IR_L(Kro32f value, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiMulC_32f_C3R(const Kro32f* pSrc, int srcStep, const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiMulC_32f_C3IR(const Kro32f value[3], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMulC_32f_C3R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[3], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiMulC_32f_C3IR_L(const Kro32f value[3], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiMulC_32f_C4R(const Kro32f* pSrc, int srcStep, const Kro32f value[4], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiMulC_32f_C4IR(const Kro32f value[4], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMulC_32f_C4R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[4], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiMulC_32f_C4IR_L(const Kro32f value[4], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiMulC_32f_AC4R(const Kro32f* pSrc, int srcStep, const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiMulC_32f_AC4IR(const Kro32f value[3], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMulC_32f_AC4R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[3], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiMulC_32f_AC4IR_L(const Kro32f value[3], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+
+KroStatus kroiDivC_8u_C1RSfs(const Kro8u* pSrc, int srcStep, Kro8u value, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_C1IRSfs(Kro8u value, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_C1RSfs_L(const Kro8u* pSrc, int64_t srcStep, Kro8u value, Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_C1IRSfs_L(Kro8u value, Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_C3RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_C3IRSfs(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_C3RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[3], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_C3IRSfs_L(const Kro8u value[3], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_C4RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_C4IRSfs(const Kro8u value[4], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_C4RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[4], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_C4IRSfs_L(const Kro8u value[4], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_AC4RSfs(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_AC4IRSfs(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_AC4RSfs_L(const Kro8u* pSrc, int64_t srcStep, const Kro8u value[3], Kro8u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_8u_AC4IRSfs_L(const Kro8u value[3], Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C1RSfs(const Kro16u* pSrc, int srcStep, Kro16u value, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C1IRSfs(Kro16u value, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C1RSfs_L(const Kro16u* pSrc, int64_t srcStep, Kro16u value, Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C1IRSfs_L(Kro16u value, Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C3RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C3IRSfs(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C3RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[3], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C3IRSfs_L(const Kro16u value[3], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C4RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[4], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C4IRSfs(const Kro16u value[4], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C4RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[4], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_C4IRSfs_L(const Kro16u value[4], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_AC4RSfs(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_AC4IRSfs(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_AC4RSfs_L(const Kro16u* pSrc, int64_t srcStep, const Kro16u value[3], Kro16u* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16u_AC4IRSfs_L(const Kro16u value[3], Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C1RSfs(const Kro16s* pSrc, int srcStep, Kro16s value, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C1IRSfs(Kro16s value, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C1RSfs_L(const Kro16s* pSrc, int64_t srcStep, Kro16s value, Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C1IRSfs_L(Kro16s value, Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C3RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C3IRSfs(const Kro16s value[3], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C3RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[3], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C3IRSfs_L(const Kro16s value[3], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C4RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[4], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C4IRSfs(const Kro16s value[4], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C4RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[4], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_C4IRSfs_L(const Kro16s value[4], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_AC4RSfs(const Kro16s* pSrc, int srcStep, const Kro16s value[3], Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_AC4IRSfs(const Kro16s value[3], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_AC4RSfs_L(const Kro16s* pSrc, int64_t srcStep, const Kro16s value[3], Kro16s* pDst, int64_t dstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_16s_AC4IRSfs_L(const Kro16s value[3], Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize, int scaleFactor);
+KroStatus kroiDivC_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f value, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiDivC_32f_C1IR(Kro32f value, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiDivC_32f_C1R_L(const Kro32f* pSrc, int64_t srcStep, Kro32f value, Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiDivC_32f_C1IR_L(Kro32f value, Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiDivC_32f_C3R(const Kro32f* pSrc, int srcStep, const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiDivC_32f_C3IR(const Kro32f value[3], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiDivC_32f_C3R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[3], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiDivC_32f_C3IR_L(const Kro32f value[3], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiDivC_32f_C4R(const Kro32f* pSrc, int srcStep, const Kro32f value[4], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiDivC_32f_C4IR(const Kro32f value[4], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiDivC_32f_C4R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[4], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiDivC_32f_C4IR_L(const Kro32f value[4], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+KroStatus kroiDivC_32f_AC4R(const Kro32f* pSrc, int srcStep, const Kro32f value[3], Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiDivC_32f_AC4IR(const Kro32f value[3], Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiDivC_32f_AC4R_L(const Kro32f* pSrc, int64_t srcStep, const Kro32f value[3], Kro32f* pDst, int64_t dstStep, KroiSizeL roiSize);
+KroStatus kroiDivC_32f_AC4IR_L(const Kro32f value[3], Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL roiSize);
+
+/* ---------------------------------------------------------------------------------------
+ * Bitwise logic: And, Or, Xor, their constant forms, Not and Complement.
+ *
+ * Types 8u, 16u, 32s (Not: 8u; Complement: 8s, 16s, 32s), each in C1, C3, C4 and AC4, out
+ * of place (R) and in place (IR).  AC4 computes the first three channels and never writes
+ * the fourth.  No scaling, no saturation: the result is the bits of the operation.
+ *   kroiAnd/Or/Xor       dst = src1 op src2; in place srcDst = src op srcDst.
+ *   kroiAndC/OrC/XorC    dst = src op value, one value per channel (an array of 3 for C3 and
+ *                        AC4, of 4 for C4; the array pointer is checked like the images).
+ *   kroiNot_8u           dst = ~src (Xor with 255).
+ *   kroiComplement       two's complement to sign and magnitude and back: a negative value
+ *                        becomes its magnitude with the sign bit set, and the reverse, so
+ *                        that two applications give the value back (-1 <-> 0x8001 in 16s);
+ *                        non-negative values are unchanged, and the most negative value
+ *                        (-128, -32768, -2^31), which has no magnitude in the type, maps to
+ *                        itself.
+ * Checks, in this order (it differs from the arithmetic's): a null pointer -8; any step
+ * below 1 -16; width or height below 1 -6.  A zero step with a zero width gives -16.
+ * Status: 0, or the error; nothing is written on error.
+ * ------------------------------------------------------------------------------------- */
+KroStatus kroiAnd_8u_C1R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_8u_C1IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAnd_8u_C3R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_8u_C3IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAnd_8u_C4R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_8u_C4IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAnd_8u_AC4R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_8u_AC4IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAnd_16u_C1R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_16u_C1IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAnd_16u_C3R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_16u_C3IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAnd_16u_C4R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_16u_C4IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAnd_16u_AC4R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_16u_AC4IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAnd_32s_C1R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_32s_C1IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAnd_32s_C3R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_32s_C3IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAnd_32s_C4R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_32s_C4IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAnd_32s_AC4R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAnd_32s_AC4IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+KroStatus kroiOr_8u_C1R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_8u_C1IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOr_8u_C3R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_8u_C3IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOr_8u_C4R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_8u_C4IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOr_8u_AC4R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_8u_AC4IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOr_16u_C1R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_16u_C1IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOr_16u_C3R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_16u_C3IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOr_16u_C4R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_16u_C4IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOr_16u_AC4R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_16u_AC4IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOr_32s_C1R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_32s_C1IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOr_32s_C3R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_32s_C3IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOr_32s_C4R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_32s_C4IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOr_32s_AC4R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOr_32s_AC4IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+KroStatus kroiXor_8u_C1R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_8u_C1IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXor_8u_C3R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_8u_C3IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXor_8u_C4R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_8u_C4IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXor_8u_AC4R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_8u_AC4IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXor_16u_C1R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_16u_C1IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXor_16u_C3R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_16u_C3IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXor_16u_C4R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_16u_C4IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXor_16u_AC4R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_16u_AC4IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXor_32s_C1R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_32s_C1IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXor_32s_C3R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_32s_C3IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXor_32s_C4R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_32s_C4IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXor_32s_AC4R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXor_32s_AC4IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+KroStatus kroiAndC_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u value, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_8u_C1IR(Kro8u value, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAndC_8u_C3R(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_8u_C3IR(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAndC_8u_C4R(const Kro8u* pSrc, int srcStep, const Kro8u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_8u_C4IR(const Kro8u value[4], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAndC_8u_AC4R(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_8u_AC4IR(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAndC_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u value, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_16u_C1IR(Kro16u value, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAndC_16u_C3R(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_16u_C3IR(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAndC_16u_C4R(const Kro16u* pSrc, int srcStep, const Kro16u value[4], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_16u_C4IR(const Kro16u value[4], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAndC_16u_AC4R(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_16u_AC4IR(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAndC_32s_C1R(const Kro32s* pSrc, int srcStep, Kro32s value, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_32s_C1IR(Kro32s value, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAndC_32s_C3R(const Kro32s* pSrc, int srcStep, const Kro32s value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_32s_C3IR(const Kro32s value[3], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAndC_32s_C4R(const Kro32s* pSrc, int srcStep, const Kro32s value[4], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_32s_C4IR(const Kro32s value[4], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAndC_32s_AC4R(const Kro32s* pSrc, int srcStep, const Kro32s value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAndC_32s_AC4IR(const Kro32s value[3], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+KroStatus kroiOrC_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u value, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_8u_C1IR(Kro8u value, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOrC_8u_C3R(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_8u_C3IR(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOrC_8u_C4R(const Kro8u* pSrc, int srcStep, const Kro8u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_8u_C4IR(const Kro8u value[4], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOrC_8u_AC4R(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_8u_AC4IR(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOrC_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u value, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_16u_C1IR(Kro16u value, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOrC_16u_C3R(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_16u_C3IR(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOrC_16u_C4R(const Kro16u* pSrc, int srcStep, const Kro16u value[4], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_16u_C4IR(const Kro16u value[4], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOrC_16u_AC4R(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_16u_AC4IR(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOrC_32s_C1R(const Kro32s* pSrc, int srcStep, Kro32s value, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_32s_C1IR(Kro32s value, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOrC_32s_C3R(const Kro32s* pSrc, int srcStep, const Kro32s value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_32s_C3IR(const Kro32s value[3], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOrC_32s_C4R(const Kro32s* pSrc, int srcStep, const Kro32s value[4], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_32s_C4IR(const Kro32s value[4], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiOrC_32s_AC4R(const Kro32s* pSrc, int srcStep, const Kro32s value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiOrC_32s_AC4IR(const Kro32s value[3], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+KroStatus kroiXorC_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u value, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_8u_C1IR(Kro8u value, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXorC_8u_C3R(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_8u_C3IR(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXorC_8u_C4R(const Kro8u* pSrc, int srcStep, const Kro8u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_8u_C4IR(const Kro8u value[4], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXorC_8u_AC4R(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_8u_AC4IR(const Kro8u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXorC_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u value, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_16u_C1IR(Kro16u value, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXorC_16u_C3R(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_16u_C3IR(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXorC_16u_C4R(const Kro16u* pSrc, int srcStep, const Kro16u value[4], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_16u_C4IR(const Kro16u value[4], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXorC_16u_AC4R(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_16u_AC4IR(const Kro16u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXorC_32s_C1R(const Kro32s* pSrc, int srcStep, Kro32s value, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_32s_C1IR(Kro32s value, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXorC_32s_C3R(const Kro32s* pSrc, int srcStep, const Kro32s value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_32s_C3IR(const Kro32s value[3], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXorC_32s_C4R(const Kro32s* pSrc, int srcStep, const Kro32s value[4], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_32s_C4IR(const Kro32s value[4], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiXorC_32s_AC4R(const Kro32s* pSrc, int srcStep, const Kro32s value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiXorC_32s_AC4IR(const Kro32s value[3], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+KroStatus kroiNot_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiNot_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiNot_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiNot_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiNot_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiNot_8u_C4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiNot_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiNot_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+KroStatus kroiComplement_8s_C1R(const Kro8s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_8s_C1IR(Kro8s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiComplement_8s_C3R(const Kro8s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_8s_C3IR(Kro8s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiComplement_8s_C4R(const Kro8s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_8s_C4IR(Kro8s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiComplement_8s_AC4R(const Kro8s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_8s_AC4IR(Kro8s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiComplement_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiComplement_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiComplement_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_16s_C4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiComplement_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiComplement_32s_C1R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_32s_C1IR(Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiComplement_32s_C3R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_32s_C3IR(Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiComplement_32s_C4R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_32s_C4IR(Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiComplement_32s_AC4R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiComplement_32s_AC4IR(Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+/* ---------------------------------------------------------------------------------------
+ * Shifts by a constant count: kroiLShiftC (8u, 16u, 32s), kroiRShiftC (8u, 16u, 16s, 32s).
+ *
+ * C1, C3, C4, AC4, out of place and in place; the count is an unsigned 32-bit value, an
+ * array of one count per channel for C3, C4 (4) and AC4 (3, the fourth channel is never
+ * written).  Checks as the bitwise logic: null pointer (count array included) -8, any step
+ * below 1 -16, width or height below 1 -6.
+ *   LShiftC   v << count; the bits shifted out are lost (32s: the bits of the two's
+ *             complement value, no saturation).  A count of the type's width or more (8u
+ *             above 7, 16u above 15, 32s above 31) gives 0; when it does so for every
+ *             channel the ROI is filled with 0 through kroiSet of the same layout (16u
+ *             through the 16s form).
+ *   RShiftC   8u, 16u: logical shift, 0 for counts above 7 and 15, filled through kroiSet
+ *             as above.  16s: arithmetic shift, rounding toward minus infinity (-5 by 1
+ *             gives -3); a count of 16 or more gives 0 for non-negative and -1 for negative
+ *             values, and so does every count above 31: no count wraps around or fills.  A
+ *             count of 0 in every channel copies through kroiCopy_16s of the same layout.
+ *             32s: arithmetic too, like 16s, so that a signed image keeps its sign: counts
+ *             of 31 and more give 0 or -1.
+ * Status: 0, or the error (a fill or copy returns the status of kroiSet or kroiCopy).
+ * ------------------------------------------------------------------------------------- */
+KroStatus kroiLShiftC_8u_C1R(const Kro8u* pSrc, int srcStep, Kro32u value, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_8u_C1IR(Kro32u value, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_8u_C3R(const Kro8u* pSrc, int srcStep, const Kro32u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_8u_C3IR(const Kro32u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_8u_C4R(const Kro8u* pSrc, int srcStep, const Kro32u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_8u_C4IR(const Kro32u value[4], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_8u_AC4R(const Kro8u* pSrc, int srcStep, const Kro32u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_8u_AC4IR(const Kro32u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_16u_C1R(const Kro16u* pSrc, int srcStep, Kro32u value, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_16u_C1IR(Kro32u value, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_16u_C3R(const Kro16u* pSrc, int srcStep, const Kro32u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_16u_C3IR(const Kro32u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_16u_C4R(const Kro16u* pSrc, int srcStep, const Kro32u value[4], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_16u_C4IR(const Kro32u value[4], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_16u_AC4R(const Kro16u* pSrc, int srcStep, const Kro32u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_16u_AC4IR(const Kro32u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_32s_C1R(const Kro32s* pSrc, int srcStep, Kro32u value, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_32s_C1IR(Kro32u value, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_32s_C3R(const Kro32s* pSrc, int srcStep, const Kro32u value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_32s_C3IR(const Kro32u value[3], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_32s_C4R(const Kro32s* pSrc, int srcStep, const Kro32u value[4], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_32s_C4IR(const Kro32u value[4], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_32s_AC4R(const Kro32s* pSrc, int srcStep, const Kro32u value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLShiftC_32s_AC4IR(const Kro32u value[3], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+KroStatus kroiRShiftC_8u_C1R(const Kro8u* pSrc, int srcStep, Kro32u value, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_8u_C1IR(Kro32u value, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_8u_C3R(const Kro8u* pSrc, int srcStep, const Kro32u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_8u_C3IR(const Kro32u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_8u_C4R(const Kro8u* pSrc, int srcStep, const Kro32u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_8u_C4IR(const Kro32u value[4], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_8u_AC4R(const Kro8u* pSrc, int srcStep, const Kro32u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_8u_AC4IR(const Kro32u value[3], Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16u_C1R(const Kro16u* pSrc, int srcStep, Kro32u value, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16u_C1IR(Kro32u value, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16u_C3R(const Kro16u* pSrc, int srcStep, const Kro32u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16u_C3IR(const Kro32u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16u_C4R(const Kro16u* pSrc, int srcStep, const Kro32u value[4], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16u_C4IR(const Kro32u value[4], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16u_AC4R(const Kro16u* pSrc, int srcStep, const Kro32u value[3], Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16u_AC4IR(const Kro32u value[3], Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16s_C1R(const Kro16s* pSrc, int srcStep, Kro32u value, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16s_C1IR(Kro32u value, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16s_C3R(const Kro16s* pSrc, int srcStep, const Kro32u value[3], Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16s_C3IR(const Kro32u value[3], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16s_C4R(const Kro16s* pSrc, int srcStep, const Kro32u value[4], Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16s_C4IR(const Kro32u value[4], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16s_AC4R(const Kro16s* pSrc, int srcStep, const Kro32u value[3], Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_16s_AC4IR(const Kro32u value[3], Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_32s_C1R(const Kro32s* pSrc, int srcStep, Kro32u value, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_32s_C1IR(Kro32u value, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_32s_C3R(const Kro32s* pSrc, int srcStep, const Kro32u value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_32s_C3IR(const Kro32u value[3], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_32s_C4R(const Kro32s* pSrc, int srcStep, const Kro32u value[4], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_32s_C4IR(const Kro32u value[4], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_32s_AC4R(const Kro32s* pSrc, int srcStep, const Kro32u value[3], Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiRShiftC_32s_AC4IR(const Kro32u value[3], Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+
 
 /* end of section ARITHC */
 

@@ -29,6 +29,12 @@ int runArithMul(const Args& args); // arith.cpp
 int runArithDiv(const Args& args); // arith.cpp
 // end of section ARITH
 // section ARITHC
+int runAnd(const Args& args);   // arithc.cpp
+int runXor(const Args& args);   // arithc.cpp
+int runNot(const Args& args);   // arithc.cpp
+int runShift(const Args& args); // arithc.cpp
+int runAddC(const Args& args);  // arithc.cpp
+int runMulC(const Args& args);  // arithc.cpp
 // end of section ARITHC
 // section CONVERT
 // end of section CONVERT

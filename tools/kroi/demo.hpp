@@ -110,6 +110,12 @@ Image demoArithMul(DemoContext& ctx);
 Image demoArithDiv(DemoContext& ctx);
 // end of section ARITH
 // section ARITHC
+Image demoAddC(DemoContext& ctx);    // demo_arithc.cpp
+Image demoMulC(DemoContext& ctx);    // demo_arithc.cpp
+Image demoNot(DemoContext& ctx);     // demo_arithc.cpp
+Image demoAndC(DemoContext& ctx);    // demo_arithc.cpp
+Image demoXor(DemoContext& ctx);     // demo_arithc.cpp
+Image demoRShiftC(DemoContext& ctx); // demo_arithc.cpp
 // end of section ARITHC
 // section CONVERT
 // end of section CONVERT

@@ -125,6 +125,12 @@ constexpr DemoEntry kEntries[] = {
     {"div-8u-c3-s-6", "kroiDiv_8u_C3RSfs(second, step2, scene, step1, dst, step, {512, 384}, -6)", demoArithDiv},
     // end of section ARITH
     // section ARITHC
+    {"addc-8u-c3", "kroiAddC_8u_C3RSfs(src, srcStep, (Kro8u[]){60, 40, 0}, dst, dstStep, {512, 384}, 0)", demoAddC},
+    {"mulc-8u-c3", "kroiMulC_8u_C3RSfs(src, srcStep, (Kro8u[]){3, 3, 3}, dst, dstStep, {512, 384}, 1)", demoMulC},
+    {"not-8u-c3", "kroiNot_8u_C3R(src, srcStep, dst, dstStep, {512, 384})", demoNot},
+    {"andc-8u-c3", "kroiAndC_8u_C3R(src, srcStep, (Kro8u[]){0xE0, 0xE0, 0xC0}, dst, dstStep, {512, 384})", demoAndC},
+    {"xor-8u-c3", "kroiXor_8u_C3R(src, srcStep, second, secondStep, dst, dstStep, {512, 384})", demoXor},
+    {"rshiftc-8u-c3", "kroiRShiftC_8u_C3R(src, srcStep, (Kro32u[]){0, 1, 3}, dst, dstStep, {512, 384})", demoRShiftC},
     // end of section ARITHC
     // section CONVERT
     // end of section CONVERT

@@ -60,6 +60,12 @@ constexpr Command kCommands[] = {
      runArithDiv},
     // end of section ARITH
     // section ARITHC
+    {"addc", "kroi addc IN.png VALUE OUT.png [SCALE]\n    VALUE added to every sample, times 2^-SCALE, rounded and saturated", runAddC},
+    {"mulc", "kroi mulc IN.png VALUE OUT.png [SCALE]\n    every sample times VALUE, times 2^-SCALE, rounded and saturated", runMulC},
+    {"and", "kroi and A.png (B.png | VALUE) OUT.png\n    bitwise And with a second image of the same size and type, or with a constant", runAnd},
+    {"xor", "kroi xor A.png (B.png | VALUE) OUT.png\n    bitwise Xor with a second image or a constant", runXor},
+    {"not", "kroi not IN.png OUT.png\n    every sample's bits inverted", runNot},
+    {"shift", "kroi shift IN.png COUNT OUT.png\n    samples shifted left by COUNT bits, right for a negative COUNT", runShift},
     // end of section ARITHC
     // section CONVERT
     // end of section CONVERT
