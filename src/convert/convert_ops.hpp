@@ -1,0 +1,264 @@
+// The conversion operations.  Each is a struct whose scalar() is the definition of one
+// element's result; lanes(), where present, must give the same bits for sixteen elements at
+// once (see convert_lanes.hpp) and is used for the bulk of a row.  Float results that
+// depend on the processor's rounding control (cvtps2dq, cvtdq2ps of 32-bit integers, float
+// products) are computed inside a RoundingScope that the API function opens; scalar bodies
+// round in software and so agree with the vector bodies under that scope.
+#pragma once
+
+#include <cmath>
+#include <limits>
+
+#include "convert/convert_lanes.hpp"
+#include "frame/fpround.hpp"
+#include "frame/round.hpp"
+
+namespace KROI_TIER::cvt {
+
+template <class T>
+constexpr bool kFloat = std::is_floating_point_v<T>;
+
+// A float value rounded to an integral value by rounding mode: 0 toward zero, 1 to nearest
+// with ties to even, every other value to nearest with ties away from zero.
+inline double roundByMode(double v, int mode)
+{
+    return mode == kroRndZero ? roundTowardZero(v) : mode == kroRndNear ? roundHalfEven(v) : roundHalfAway(v);
+}
+
+// v x 2^-s for s > 0 rounded by mode, for |v| < 2^40 (every integer source fits).
+inline int64_t shiftByMode(int64_t v, int s, int mode)
+{
+    if (mode == kroRndNear) return shiftRoundEven(v, s);
+    if (s > 48) return 0;  // |v| / 2^s is below one half
+    const int64_t a = v < 0 ? -v : v;
+    const int64_t q = mode == kroRndZero ? a >> s : (a + (int64_t{1} << (s - 1))) >> s;
+    return v < 0 ? -q : q;
+}
+
+// ---- exact widening, saturating narrowing, signed to unsigned -----------------------------
+// Float destinations from 32-bit integers round to nearest (the API opens the scope).
+template <class S, class D>
+struct Saturate {
+    static constexpr bool kVector = lanes::kFits<S> && lanes::kStorable<D> && !std::is_same_v<S, Kro32f>;
+    static D scalar(S v)
+    {
+        if constexpr (kFloat<D>) return static_cast<D>(v);
+        else return saturate<D>(int64_t(v));
+    }
+    static lanes::I4 lanes(const lanes::I4& x) { return x; }
+};
+
+// ---- float to integer, sixteen at a time ---------------------------------------------------
+// D is 8 or 16 bits.  NaN gives 0.  kScaled multiplies by 2^-scaleFactor first: in float
+// that is exact, or it overflows (and the result saturates either way), or it falls below
+// 2^-126 for a factor of 2^-100 or less (and every mode rounds that to 0).  Without kAway the
+// vector body rounds by the processor's control, which the API sets to the mode (0 or 1).
+template <class D, bool kAway, bool kScaled>
+struct FloatToInt {
+    static constexpr bool kVector = true;
+    int mode = kroRndNear;
+    float factor = 1.0f;
+
+    D scalar(Kro32f x) const
+    {
+        const double v = kScaled ? double(x) * double(factor) : double(x);
+        return saturateIntegral<D>(roundByMode(v, kAway ? kroRndNearAway : mode));
+    }
+    lanes::I4 lanes(const lanes::F4& x) const
+    {
+        const __m128 lo = _mm_set1_ps(float(std::numeric_limits<D>::min()));
+        const __m128 hi = _mm_set1_ps(float(std::numeric_limits<D>::max()));
+        const __m128 f = _mm_set1_ps(factor), half = _mm_set1_ps(0.5f), mhalf = _mm_set1_ps(-0.5f);
+        lanes::I4 r;
+        for (int k = 0; k < 4; ++k) {
+            __m128 v = kScaled ? _mm_mul_ps(x.v[k], f) : x.v[k];
+            v = _mm_and_ps(v, _mm_cmpord_ps(v, v));  // NaN to 0
+            v = _mm_min_ps(_mm_max_ps(v, lo), hi);    // in range, so the conversion is exact
+            if constexpr (kAway) {
+                // Truncate, then step away from zero when the dropped part is at least one half.
+                const __m128i t = _mm_cvttps_epi32(v);
+                const __m128 d = _mm_sub_ps(v, _mm_cvtepi32_ps(t));
+                const __m128i up = _mm_castps_si128(_mm_cmpge_ps(d, half));
+                const __m128i down = _mm_castps_si128(_mm_cmple_ps(d, mhalf));
+                r.v[k] = _mm_add_epi32(_mm_sub_epi32(t, up), down);
+            } else {
+                r.v[k] = _mm_cvtps_epi32(v);
+            }
+        }
+        return r;
+    }
+};
+
+// Float or double to any integer type with a scale factor, one element at a time in double.
+// The factor 2^-scaleFactor is applied as two powers of two of the same sign, each within
+// the double range: every product is exact unless it overflows (saturates either way) or
+// underflows far below one half (rounds to 0 either way).
+template <class S, class D>
+struct WideToInt {
+    static constexpr bool kVector = false;
+    int mode;
+    double f1, f2;
+    WideToInt(int roundMode, int scaleFactor) : mode(roundMode)
+    {
+        const int s = scaleFactor < -2200 ? -2200 : scaleFactor > 2200 ? 2200 : scaleFactor;
+        f1 = std::ldexp(1.0, -(s / 2));
+        f2 = std::ldexp(1.0, -(s - s / 2));
+    }
+    D scalar(S x) const { return saturateIntegral<D>(roundByMode(double(x) * f1 * f2, mode)); }
+};
+
+// Integer to integer with a scale factor: the exact value times 2^-scaleFactor, rounded by
+// the rounding mode like a float source, then saturated.
+template <class S, class D>
+struct IntSfs {
+    static constexpr bool kVector = false;
+    int mode, sf;
+    D scalar(S v) const
+    {
+        return saturate<D>(sf > 0 ? shiftByMode(int64_t(v), sf, mode) : scaleRoundEven(int64_t(v), sf));
+    }
+};
+
+// ---- range scaling between integer types ---------------------------------------------------
+// 8u onto the whole range of D by repeating the byte: 0 goes to D's minimum, 255 to its maximum.
+template <class D>
+struct ScaleUp {
+    static constexpr bool kVector = true;
+    static D scalar(Kro8u v)
+    {
+        if constexpr (std::is_same_v<D, Kro16u>) return D(v * 257);
+        else if constexpr (std::is_same_v<D, Kro16s>) return D(v * 257 - 32768);
+        else return D(int64_t(v) * 16843009 - INT64_C(2147483648));
+    }
+    static lanes::I4 lanes(const lanes::I4& x)
+    {
+        lanes::I4 r;
+        for (int k = 0; k < 4; ++k) {
+            __m128i v = _mm_or_si128(x.v[k], _mm_slli_epi32(x.v[k], 8));
+            if constexpr (std::is_same_v<D, Kro16s>) v = _mm_sub_epi32(v, _mm_set1_epi32(32768));
+            if constexpr (std::is_same_v<D, Kro32s>)
+                v = _mm_xor_si128(_mm_or_si128(v, _mm_slli_epi32(v, 16)), _mm_set1_epi32(INT32_MIN));
+            r.v[k] = v;
+        }
+        return r;
+    }
+};
+
+// The source range onto 0..255.  kBias moves an unsigned source onto the signed range;
+// kShift is 8 for 16-bit sources and 24 for 32-bit ones.
+template <class S>
+struct ScaleDownTraits {
+    static constexpr int kBias = std::is_same_v<S, Kro16u> ? 32768 : 0;
+    static constexpr int kShift = sizeof(S) == 2 ? 8 : 24;
+};
+
+// Fast: ((v - (v >> 8)) >> shift) + 128 with arithmetic shifts, on the signed value; it
+// divides by 257 (by 16843009 for 32 bits) closely enough that the ends map exactly.
+template <class S>
+struct ScaleDownFast {
+    static constexpr bool kVector = true;
+    using T = ScaleDownTraits<S>;
+    static Kro8u scalar(S v)
+    {
+        const int32_t w = int32_t(int64_t(v) - T::kBias);
+        return Kro8u(((w - (w >> 8)) >> T::kShift) + 128);
+    }
+    static lanes::I4 lanes(const lanes::I4& x)
+    {
+        lanes::I4 r;
+        for (int k = 0; k < 4; ++k) {
+            const __m128i w = _mm_sub_epi32(x.v[k], _mm_set1_epi32(T::kBias));
+            const __m128i q = _mm_srai_epi32(_mm_sub_epi32(w, _mm_srai_epi32(w, 8)), T::kShift);
+            r.v[k] = _mm_add_epi32(q, _mm_set1_epi32(128));
+        }
+        return r;
+    }
+};
+
+// Accurate, 16-bit sources: (v - min) x 0.0038910505827516317 (255/65535 in single
+// precision), the product in single precision, rounded to nearest, ties to even.
+template <class S>
+struct ScaleDownAccurate16 {
+    static constexpr bool kVector = true;
+    static constexpr float kFactor = 0.0038910505827516317f;
+    static constexpr int kOffset = std::is_same_v<S, Kro16s> ? 32768 : 0;
+    static Kro8u scalar(S v)
+    {
+        const float p = float(int32_t(v) + kOffset) * kFactor;
+        return saturateIntegral<Kro8u>(roundHalfEven(p));
+    }
+    static lanes::I4 lanes(const lanes::I4& x)
+    {
+        lanes::I4 r;
+        for (int k = 0; k < 4; ++k) {
+            const __m128 f = _mm_cvtepi32_ps(_mm_add_epi32(x.v[k], _mm_set1_epi32(kOffset)));
+            r.v[k] = _mm_cvtps_epi32(_mm_mul_ps(f, _mm_set1_ps(kFactor)));
+        }
+        return r;
+    }
+};
+
+// Accurate, 32s: (v + 2^31) x 255 / (2^32 - 1) rounded to nearest, in exact integers (the
+// quotient never falls on a half, so the tie rule does not arise).
+struct ScaleDownAccurate32 {
+    static constexpr bool kVector = false;
+    static Kro8u scalar(Kro32s v)
+    {
+        const int64_t u = int64_t(v) + INT64_C(2147483648), d = INT64_C(4294967295);
+        return Kro8u((u * 510 + d) / (2 * d));
+    }
+};
+
+// ---- range scaling with a float side -------------------------------------------------------
+// 8u to 32f: v x factor + vMin, in single precision rounded to nearest.
+struct Scale8u32f {
+    static constexpr bool kVector = true;
+    float factor, vMin;
+    Kro32f scalar(Kro8u v) const { return float(v) * factor + vMin; }
+    lanes::F4 lanes(const lanes::I4& x) const
+    {
+        const __m128 f = _mm_set1_ps(factor), m = _mm_set1_ps(vMin);
+        lanes::F4 r;
+        for (int k = 0; k < 4; ++k) r.v[k] = _mm_add_ps(_mm_mul_ps(_mm_cvtepi32_ps(x.v[k]), f), m);
+        return r;
+    }
+};
+
+// 32f to 8u: clamp to [vMin, vMax] (NaN takes vMin and gives 0), then x x factor + offset in
+// single precision, rounded to nearest with ties to even.
+struct Scale32f8u {
+    static constexpr bool kVector = true;
+    float vMin, vMax, factor, offset;
+    Kro8u scalar(Kro32f x) const
+    {
+        x = x > vMin ? x : vMin;  // the operand order of maxps and minps, NaN included
+        x = x < vMax ? x : vMax;
+        return saturateIntegral<Kro8u>(roundHalfEven(x * factor + offset));
+    }
+    lanes::I4 lanes(const lanes::F4& x) const
+    {
+        const __m128 lo = _mm_set1_ps(vMin), hi = _mm_set1_ps(vMax);
+        const __m128 f = _mm_set1_ps(factor), o = _mm_set1_ps(offset);
+        lanes::I4 r;
+        for (int k = 0; k < 4; ++k)
+            r.v[k] = _mm_cvtps_epi32(_mm_add_ps(_mm_mul_ps(_mm_min_ps(_mm_max_ps(x.v[k], lo), hi), f), o));
+        return r;
+    }
+};
+
+// ---- multiply and add constants ------------------------------------------------------------
+// v x m + a in double precision (rounded to nearest), then rounded once to the destination:
+// integers to nearest with ties to even and saturated (NaN gives 0), floats to nearest.
+template <class S, class D>
+struct ScaleConst {
+    static constexpr bool kVector = false;
+    double m, a;
+    D scalar(S v) const
+    {
+        const double r = double(v) * m + a;
+        if constexpr (kFloat<D>) return static_cast<D>(r);
+        else return saturateIntegral<D>(roundHalfEven(r));
+    }
+};
+
+}  // namespace KROI_TIER::cvt

@@ -1,0 +1,59 @@
+// Scale between 8u and a float range [vMin, vMax] given by the caller.  The range is checked
+// first, before the pointers.  All float arithmetic runs rounded to nearest, set for the call.
+#include "convert/scale_stream.hpp"
+#include "frame/bind.hpp"
+#include "frame/check.hpp"
+
+namespace KROI_TIER::cvt {
+
+namespace {
+
+// An empty range, NaN included: -12.
+KroStatus range(Kro32f vMin, Kro32f vMax) { return vMax - vMin > 0.0f ? kroStsOk : kroStsEmptyScaleRangeErr; }
+
+// Both steps equal the row's bytes and the pixel count stays below 2^31 - 1.
+template <Layout L, class S, class D>
+bool oneRowScale(int ss, int ds, KroiSize roi)
+{
+    return contiguous<L, S, D>(ss, ds, roi) && int64_t(roi.width) * roi.height < 0x7FFFFFFF;
+}
+
+}  // namespace
+
+template <Layout L>
+KroStatus scale8u32f(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f vMin,
+                     Kro32f vMax)
+{
+    KROI_CHECK(range(vMin, vMax));
+    KROI_CHECK(check::pointers(pSrc, pDst));
+    KROI_CHECK(check::roi(roiSize));
+    KROI_CHECK(check::steps(srcStep, dstStep));
+    RoundingScope scope(RoundingScope::kNearest);
+    const Scale8u32f op{(vMax - vMin) / 255.0f, vMin};
+    run<L>(pSrc, srcStep, pDst, dstStep, roiSize, oneRowScale<L, Kro8u, Kro32f>(srcStep, dstStep, roiSize), op,
+           storesFor<L, Kro8u, Kro32f>(roiSize));
+    return kroStsOk;
+}
+
+template <Layout L>
+KroStatus scale32f8u(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro32f vMin,
+                     Kro32f vMax)
+{
+    KROI_CHECK(range(vMin, vMax));
+    KROI_CHECK(check::pointers(pSrc, pDst));
+    KROI_CHECK(check::roi(roiSize));
+    KROI_CHECK(check::steps(srcStep, dstStep));
+    RoundingScope scope(RoundingScope::kNearest);
+    const float factor = 255.0f / (vMax - vMin);
+    const Scale32f8u op{vMin, vMax, factor, -vMin * factor};
+    run<L>(pSrc, srcStep, pDst, dstStep, roiSize, oneRowScale<L, Kro32f, Kro8u>(srcStep, dstStep, roiSize), op);
+    return kroStsOk;
+}
+
+}  // namespace KROI_TIER::cvt
+
+#define KROI_EXPORT KROI_BIND
+KROI_BIND_LIST {
+#include "convert/scale_float.exports.inc"
+}
+#undef KROI_EXPORT
