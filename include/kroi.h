@@ -437,38 +437,22 @@ KroStatus kroiConvert_32s32u_C1Rs(const Kro32s* pSrc, int srcStep, Kro32u* pDst,
  * steps equal to their rows' bytes: the ROI is converted as one row.
  * Example: 2.5 gives 2, 2, 3 with modes 0, 1, 2; -1.0 gives 0 in 8u; 300.0 gives 255. */
 
-KroStatus kroiConvert_32f8u_C1R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                              KroRoundMode roundMode);
-KroStatus kroiConvert_32f8u_C3R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                              KroRoundMode roundMode);
-KroStatus kroiConvert_32f8u_C4R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                              KroRoundMode roundMode);
-KroStatus kroiConvert_32f8u_AC4R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                              KroRoundMode roundMode);
-KroStatus kroiConvert_32f8s_C1R(const Kro32f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize,
-                              KroRoundMode roundMode);
-KroStatus kroiConvert_32f8s_C3R(const Kro32f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize,
-                              KroRoundMode roundMode);
-KroStatus kroiConvert_32f8s_C4R(const Kro32f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize,
-                              KroRoundMode roundMode);
-KroStatus kroiConvert_32f8s_AC4R(const Kro32f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize,
-                              KroRoundMode roundMode);
-KroStatus kroiConvert_32f16u_C1R(const Kro32f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-                              KroRoundMode roundMode);
-KroStatus kroiConvert_32f16u_C3R(const Kro32f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-                              KroRoundMode roundMode);
-KroStatus kroiConvert_32f16u_C4R(const Kro32f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-                              KroRoundMode roundMode);
-KroStatus kroiConvert_32f16u_AC4R(const Kro32f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-                              KroRoundMode roundMode);
-KroStatus kroiConvert_32f16s_C1R(const Kro32f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-                              KroRoundMode roundMode);
-KroStatus kroiConvert_32f16s_C3R(const Kro32f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-                              KroRoundMode roundMode);
-KroStatus kroiConvert_32f16s_C4R(const Kro32f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-                              KroRoundMode roundMode);
-KroStatus kroiConvert_32f16s_AC4R(const Kro32f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-                              KroRoundMode roundMode);
+KroStatus kroiConvert_32f8u_C1R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f8u_C3R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f8u_C4R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f8u_AC4R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f8s_C1R(const Kro32f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f8s_C3R(const Kro32f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f8s_C4R(const Kro32f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f8s_AC4R(const Kro32f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f16u_C1R(const Kro32f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f16u_C3R(const Kro32f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f16u_C4R(const Kro32f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f16u_AC4R(const Kro32f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f16s_C1R(const Kro32f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f16s_C3R(const Kro32f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f16s_C4R(const Kro32f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f16s_AC4R(const Kro32f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
 
 /* RSfs conversions (C1): each element times 2^-scaleFactor, rounded by roundMode (as above:
  * 0 toward zero, 1 ties to even, any other value ties away from zero), saturated.  Integer
@@ -480,50 +464,28 @@ KroStatus kroiConvert_32f16s_AC4R(const Kro32f* pSrc, int srcStep, Kro16s* pDst,
  * destination element size the ROI is converted as one row.  kroiConvert_32f32u_C1IRSfs
  * reads each element of pSrcDst as a float and writes it back as a 32-bit unsigned integer. */
 
-KroStatus kroiConvert_8u8s_C1RSfs(const Kro8u* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize,
-                                   KroRoundMode roundMode, int scaleFactor);
-KroStatus kroiConvert_16u8s_C1RSfs(const Kro16u* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize,
-                                   KroRoundMode roundMode, int scaleFactor);
-KroStatus kroiConvert_16s8s_C1RSfs(const Kro16s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize,
-                                   KroRoundMode roundMode, int scaleFactor);
-KroStatus kroiConvert_16u16s_C1RSfs(const Kro16u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-                                   KroRoundMode roundMode, int scaleFactor);
-KroStatus kroiConvert_32s16s_C1RSfs(const Kro32s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-                                   KroRoundMode roundMode, int scaleFactor);
-KroStatus kroiConvert_32s16u_C1RSfs(const Kro32s* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-                                   KroRoundMode roundMode, int scaleFactor);
-KroStatus kroiConvert_32u8u_C1RSfs(const Kro32u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                                   KroRoundMode roundMode, int scaleFactor);
-KroStatus kroiConvert_32u8s_C1RSfs(const Kro32u* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize,
-                                   KroRoundMode roundMode, int scaleFactor);
-KroStatus kroiConvert_32u16u_C1RSfs(const Kro32u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-                                   KroRoundMode roundMode, int scaleFactor);
-KroStatus kroiConvert_32u16s_C1RSfs(const Kro32u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-                                   KroRoundMode roundMode, int scaleFactor);
-KroStatus kroiConvert_32u32s_C1RSfs(const Kro32u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize,
-                                   KroRoundMode roundMode, int scaleFactor);
-KroStatus kroiConvert_32f8u_C1RSfs(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                                   KroRoundMode roundMode, int scaleFactor);
-KroStatus kroiConvert_32f8s_C1RSfs(const Kro32f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize,
-                                   KroRoundMode roundMode, int scaleFactor);
-KroStatus kroiConvert_32f16u_C1RSfs(const Kro32f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-                                   KroRoundMode roundMode, int scaleFactor);
-KroStatus kroiConvert_32f16s_C1RSfs(const Kro32f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-                                   KroRoundMode roundMode, int scaleFactor);
-KroStatus kroiConvert_32f32s_C1RSfs(const Kro32f* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize,
-                                   KroRoundMode roundMode, int scaleFactor);
-KroStatus kroiConvert_32f32u_C1RSfs(const Kro32f* pSrc, int srcStep, Kro32u* pDst, int dstStep, KroiSize roiSize,
-                                   KroRoundMode roundMode, int scaleFactor);
-KroStatus kroiConvert_64f8u_C1RSfs(const Kro64f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                                   KroRoundMode roundMode, int scaleFactor);
-KroStatus kroiConvert_64f8s_C1RSfs(const Kro64f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize,
-                                   KroRoundMode roundMode, int scaleFactor);
-KroStatus kroiConvert_64f16u_C1RSfs(const Kro64f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-                                   KroRoundMode roundMode, int scaleFactor);
-KroStatus kroiConvert_64f16s_C1RSfs(const Kro64f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-                                   KroRoundMode roundMode, int scaleFactor);
-KroStatus kroiConvert_32f32u_C1IRSfs(Kro32u* pSrcDst, int srcDstStep, KroiSize roiSize, KroRoundMode roundMode,
-                                     int scaleFactor);
+KroStatus kroiConvert_8u8s_C1RSfs(const Kro8u* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_16u8s_C1RSfs(const Kro16u* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_16s8s_C1RSfs(const Kro16s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_16u16s_C1RSfs(const Kro16u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32s16s_C1RSfs(const Kro32s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32s16u_C1RSfs(const Kro32s* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32u8u_C1RSfs(const Kro32u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32u8s_C1RSfs(const Kro32u* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32u16u_C1RSfs(const Kro32u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32u16s_C1RSfs(const Kro32u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32u32s_C1RSfs(const Kro32u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32f8u_C1RSfs(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32f8s_C1RSfs(const Kro32f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32f16u_C1RSfs(const Kro32f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32f16s_C1RSfs(const Kro32f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32f32s_C1RSfs(const Kro32f* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32f32u_C1RSfs(const Kro32f* pSrc, int srcStep, Kro32u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_64f8u_C1RSfs(const Kro64f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_64f8s_C1RSfs(const Kro64f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_64f16u_C1RSfs(const Kro64f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_64f16s_C1RSfs(const Kro64f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32f32u_C1IRSfs(Kro32u* pSrcDst, int srcDstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
 
 /* Scale: maps the whole range of one type onto the whole range of the other.  Layouts C1,
  * C3, C4, AC4.
@@ -550,30 +512,18 @@ KroStatus kroiScale_8u32s_C1R(const Kro8u* pSrc, int srcStep, Kro32s* pDst, int 
 KroStatus kroiScale_8u32s_C3R(const Kro8u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
 KroStatus kroiScale_8u32s_C4R(const Kro8u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
 KroStatus kroiScale_8u32s_AC4R(const Kro8u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
-KroStatus kroiScale_16u8u_C1R(const Kro16u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                             KroAlgorithmHint hint);
-KroStatus kroiScale_16u8u_C3R(const Kro16u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                             KroAlgorithmHint hint);
-KroStatus kroiScale_16u8u_C4R(const Kro16u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                             KroAlgorithmHint hint);
-KroStatus kroiScale_16u8u_AC4R(const Kro16u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                             KroAlgorithmHint hint);
-KroStatus kroiScale_16s8u_C1R(const Kro16s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                             KroAlgorithmHint hint);
-KroStatus kroiScale_16s8u_C3R(const Kro16s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                             KroAlgorithmHint hint);
-KroStatus kroiScale_16s8u_C4R(const Kro16s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                             KroAlgorithmHint hint);
-KroStatus kroiScale_16s8u_AC4R(const Kro16s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                             KroAlgorithmHint hint);
-KroStatus kroiScale_32s8u_C1R(const Kro32s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                             KroAlgorithmHint hint);
-KroStatus kroiScale_32s8u_C3R(const Kro32s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                             KroAlgorithmHint hint);
-KroStatus kroiScale_32s8u_C4R(const Kro32s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                             KroAlgorithmHint hint);
-KroStatus kroiScale_32s8u_AC4R(const Kro32s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                             KroAlgorithmHint hint);
+KroStatus kroiScale_16u8u_C1R(const Kro16u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
+KroStatus kroiScale_16u8u_C3R(const Kro16u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
+KroStatus kroiScale_16u8u_C4R(const Kro16u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
+KroStatus kroiScale_16u8u_AC4R(const Kro16u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
+KroStatus kroiScale_16s8u_C1R(const Kro16s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
+KroStatus kroiScale_16s8u_C3R(const Kro16s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
+KroStatus kroiScale_16s8u_C4R(const Kro16s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
+KroStatus kroiScale_16s8u_AC4R(const Kro16s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
+KroStatus kroiScale_32s8u_C1R(const Kro32s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
+KroStatus kroiScale_32s8u_C3R(const Kro32s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
+KroStatus kroiScale_32s8u_C4R(const Kro32s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
+KroStatus kroiScale_32s8u_AC4R(const Kro32s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
 
 /* Scale with a float range [vMin, vMax].
  *   8u to 32f: factor = (vMax - vMin) / 255 in single precision; dst = v x factor + vMin.
@@ -586,22 +536,14 @@ KroStatus kroiScale_32s8u_AC4R(const Kro32s* pSrc, int srcStep, Kro8u* pDst, int
  * width x height below 2^31 - 1: one row.  8u to 32f streams its stores above 2 MiB of
  * source and destination together (419,430 pixels of C1), except in AC4. */
 
-KroStatus kroiScale_8u32f_C1R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize,
-                             Kro32f vMin, Kro32f vMax);
-KroStatus kroiScale_8u32f_C3R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize,
-                             Kro32f vMin, Kro32f vMax);
-KroStatus kroiScale_8u32f_C4R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize,
-                             Kro32f vMin, Kro32f vMax);
-KroStatus kroiScale_8u32f_AC4R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize,
-                             Kro32f vMin, Kro32f vMax);
-KroStatus kroiScale_32f8u_C1R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                             Kro32f vMin, Kro32f vMax);
-KroStatus kroiScale_32f8u_C3R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                             Kro32f vMin, Kro32f vMax);
-KroStatus kroiScale_32f8u_C4R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                             Kro32f vMin, Kro32f vMax);
-KroStatus kroiScale_32f8u_AC4R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                             Kro32f vMin, Kro32f vMax);
+KroStatus kroiScale_8u32f_C1R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f vMin, Kro32f vMax);
+KroStatus kroiScale_8u32f_C3R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f vMin, Kro32f vMax);
+KroStatus kroiScale_8u32f_C4R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f vMin, Kro32f vMax);
+KroStatus kroiScale_8u32f_AC4R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f vMin, Kro32f vMax);
+KroStatus kroiScale_32f8u_C1R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro32f vMin, Kro32f vMax);
+KroStatus kroiScale_32f8u_C3R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro32f vMin, Kro32f vMax);
+KroStatus kroiScale_32f8u_C4R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro32f vMin, Kro32f vMax);
+KroStatus kroiScale_32f8u_AC4R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro32f vMin, Kro32f vMax);
 
 /* ScaleC (C1): dst = v x mVal + aVal, computed in double precision rounded to nearest (set
  * for the call), then rounded once to the destination: integers to nearest with ties to even
@@ -609,104 +551,55 @@ KroStatus kroiScale_32f8u_AC4R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int
  * pair of 8u, 8s, 16u, 16s, 32s, 32f, 64f; one type code when source and destination agree;
  * the IR forms work in place.  Checks: null -8; size -6; a step < 1 -16. */
 
-KroStatus kroiScaleC_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_8u8s_C1R(const Kro8u* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_8u16u_C1R(const Kro8u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_8u32s_C1R(const Kro8u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_8u32f_C1R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_8u64f_C1R(const Kro8u* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_8s8u_C1R(const Kro8s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_8s_C1R(const Kro8s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_8s16u_C1R(const Kro8s* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_8s16s_C1R(const Kro8s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_8s32s_C1R(const Kro8s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_8s32f_C1R(const Kro8s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_8s64f_C1R(const Kro8s* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_16u8u_C1R(const Kro16u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_16u8s_C1R(const Kro16u* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_16u16s_C1R(const Kro16u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_16u32s_C1R(const Kro16u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_16u32f_C1R(const Kro16u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_16u64f_C1R(const Kro16u* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_16s8u_C1R(const Kro16s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_16s8s_C1R(const Kro16s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_16s16u_C1R(const Kro16s* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_16s32s_C1R(const Kro16s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_16s32f_C1R(const Kro16s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_16s64f_C1R(const Kro16s* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_32s8u_C1R(const Kro32s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_32s8s_C1R(const Kro32s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_32s16u_C1R(const Kro32s* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_32s16s_C1R(const Kro32s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_32s_C1R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_32s32f_C1R(const Kro32s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_32s64f_C1R(const Kro32s* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_32f8u_C1R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_32f8s_C1R(const Kro32f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_32f16u_C1R(const Kro32f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_32f16s_C1R(const Kro32f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_32f32s_C1R(const Kro32f* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_32f64f_C1R(const Kro32f* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_64f8u_C1R(const Kro64f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_64f8s_C1R(const Kro64f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_64f16u_C1R(const Kro64f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_64f16s_C1R(const Kro64f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_64f32s_C1R(const Kro64f* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_64f32f_C1R(const Kro64f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
-KroStatus kroiScaleC_64f_C1R(const Kro64f* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize,
-                            Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8u8s_C1R(const Kro8u* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8u16u_C1R(const Kro8u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8u32s_C1R(const Kro8u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8u32f_C1R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8u64f_C1R(const Kro8u* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8s8u_C1R(const Kro8s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8s_C1R(const Kro8s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8s16u_C1R(const Kro8s* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8s16s_C1R(const Kro8s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8s32s_C1R(const Kro8s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8s32f_C1R(const Kro8s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8s64f_C1R(const Kro8s* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16u8u_C1R(const Kro16u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16u8s_C1R(const Kro16u* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16u16s_C1R(const Kro16u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16u32s_C1R(const Kro16u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16u32f_C1R(const Kro16u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16u64f_C1R(const Kro16u* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16s8u_C1R(const Kro16s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16s8s_C1R(const Kro16s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16s16u_C1R(const Kro16s* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16s32s_C1R(const Kro16s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16s32f_C1R(const Kro16s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16s64f_C1R(const Kro16s* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32s8u_C1R(const Kro32s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32s8s_C1R(const Kro32s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32s16u_C1R(const Kro32s* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32s16s_C1R(const Kro32s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32s_C1R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32s32f_C1R(const Kro32s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32s64f_C1R(const Kro32s* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32f8u_C1R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32f8s_C1R(const Kro32f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32f16u_C1R(const Kro32f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32f16s_C1R(const Kro32f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32f32s_C1R(const Kro32f* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32f64f_C1R(const Kro32f* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_64f8u_C1R(const Kro64f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_64f8s_C1R(const Kro64f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_64f16u_C1R(const Kro64f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_64f16s_C1R(const Kro64f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_64f32s_C1R(const Kro64f* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_64f32f_C1R(const Kro64f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_64f_C1R(const Kro64f* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
 KroStatus kroiScaleC_8u_C1IR(Kro64f mVal, Kro64f aVal, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
 KroStatus kroiScaleC_8s_C1IR(Kro64f mVal, Kro64f aVal, Kro8s* pSrcDst, int srcDstStep, KroiSize roiSize);
 KroStatus kroiScaleC_16u_C1IR(Kro64f mVal, Kro64f aVal, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);

@@ -18,6 +18,21 @@ namespace KROI_TIER::cvt {
 template <class T>
 constexpr bool kFloat = std::is_floating_point_v<T>;
 
+// The compiler assumes one rounding for all float arithmetic and may compute an expression
+// of the caller's arguments before a RoundingScope opens (or reuse one computed there).
+// Passing the arguments through this after the scope opens makes them new values, so that
+// everything computed from them is computed under the scope.
+template <class F>
+inline void underScope1(F& v)
+{
+    asm volatile("" : "+x"(v));
+}
+template <class... F>
+inline void underScope(F&... v)
+{
+    (underScope1(v), ...);
+}
+
 // A float value rounded to an integral value by rounding mode: 0 toward zero, 1 to nearest
 // with ties to even, every other value to nearest with ties away from zero.
 inline double roundByMode(double v, int mode)

@@ -13,6 +13,7 @@ KroStatus scaleC(const S* pSrc, int srcStep, D* pDst, int dstStep, KroiSize roiS
     KROI_CHECK(check::roi(roiSize));
     KROI_CHECK(check::steps(srcStep, dstStep));
     RoundingScope scope(RoundingScope::kNearest);
+    underScope(mVal, aVal);
     run<C1>(pSrc, srcStep, pDst, dstStep, roiSize, contiguous<C1, S, D>(srcStep, dstStep, roiSize),
             ScaleConst<S, D>{mVal, aVal});
     return kroStsOk;

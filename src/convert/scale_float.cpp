@@ -24,11 +24,12 @@ template <Layout L>
 KroStatus scale8u32f(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f vMin,
                      Kro32f vMax)
 {
+    RoundingScope scope(RoundingScope::kNearest);  // opened first: the range check raises flags too
+    underScope(vMin, vMax);
     KROI_CHECK(range(vMin, vMax));
     KROI_CHECK(check::pointers(pSrc, pDst));
     KROI_CHECK(check::roi(roiSize));
     KROI_CHECK(check::steps(srcStep, dstStep));
-    RoundingScope scope(RoundingScope::kNearest);
     const Scale8u32f op{(vMax - vMin) / 255.0f, vMin};
     run<L>(pSrc, srcStep, pDst, dstStep, roiSize, oneRowScale<L, Kro8u, Kro32f>(srcStep, dstStep, roiSize), op,
            storesFor<L, Kro8u, Kro32f>(roiSize));
@@ -39,11 +40,12 @@ template <Layout L>
 KroStatus scale32f8u(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro32f vMin,
                      Kro32f vMax)
 {
+    RoundingScope scope(RoundingScope::kNearest);  // opened first: the range check raises flags too
+    underScope(vMin, vMax);
     KROI_CHECK(range(vMin, vMax));
     KROI_CHECK(check::pointers(pSrc, pDst));
     KROI_CHECK(check::roi(roiSize));
     KROI_CHECK(check::steps(srcStep, dstStep));
-    RoundingScope scope(RoundingScope::kNearest);
     const float factor = 255.0f / (vMax - vMin);
     const Scale32f8u op{vMin, vMax, factor, -vMin * factor};
     run<L>(pSrc, srcStep, pDst, dstStep, roiSize, oneRowScale<L, Kro32f, Kro8u>(srcStep, dstStep, roiSize), op);
