@@ -61,6 +61,21 @@ struct Saturate {
         else return saturate<D>(int64_t(v));
     }
     static lanes::I4 lanes(const lanes::I4& x) { return x; }
+
+    // 16-bit to 8u without the detour through 32-bit lanes: one pack with unsigned
+    // saturation (16u is first clamped to 255, which the signed pack then keeps).
+    template <class St>
+    static void direct(const S* s, D* d)
+        requires(sizeof(S) == 2 && std::is_same_v<D, Kro8u>)
+    {
+        __m128i a = lanes::loadu(s), b = lanes::loadu(s + 8);
+        if constexpr (std::is_same_v<S, Kro16u>) {
+            const __m128i top = _mm_set1_epi16(255);
+            a = _mm_sub_epi16(a, _mm_subs_epu16(a, top));
+            b = _mm_sub_epi16(b, _mm_subs_epu16(b, top));
+        }
+        St::si(d, _mm_packus_epi16(a, b));
+    }
 };
 
 // ---- float to integer, sixteen at a time ---------------------------------------------------
@@ -87,6 +102,16 @@ struct FloatToInt {
         lanes::I4 r;
         for (int k = 0; k < 4; ++k) {
             __m128 v = kScaled ? _mm_mul_ps(x.v[k], f) : x.v[k];
+            if constexpr (!kAway) {
+                // Only large positive values need clamping before the conversion: NaN and
+                // values below -2^31 convert to INT32_MIN, which the packs saturate to the
+                // minimum, and the minimum of an unsigned type is NaN's 0.  A signed type
+                // clears NaN's lanes afterwards.  (minps returns its second operand, NaN,
+                // when either is NaN.)
+                const __m128i c = _mm_cvtps_epi32(_mm_min_ps(hi, v));
+                r.v[k] = std::is_signed_v<D> ? _mm_and_si128(c, _mm_castps_si128(_mm_cmpord_ps(v, v))) : c;
+                continue;
+            }
             v = _mm_and_ps(v, _mm_cmpord_ps(v, v));  // NaN to 0
             v = _mm_min_ps(_mm_max_ps(v, lo), hi);    // in range, so the conversion is exact
             if constexpr (kAway) {
@@ -96,8 +121,6 @@ struct FloatToInt {
                 const __m128i up = _mm_castps_si128(_mm_cmpge_ps(d, half));
                 const __m128i down = _mm_castps_si128(_mm_cmple_ps(d, mhalf));
                 r.v[k] = _mm_add_epi32(_mm_sub_epi32(t, up), down);
-            } else {
-                r.v[k] = _mm_cvtps_epi32(v);
             }
         }
         return r;
@@ -241,6 +264,13 @@ struct Scale8u32f {
 
 // 32f to 8u: clamp to [vMin, vMax] (NaN takes vMin and gives 0), then x x factor + offset in
 // single precision, rounded to nearest with ties to even.
+//
+// kClampTop false is the shortcut the API takes when vMax itself maps to 255: the float
+// operations are monotone and vMin maps to exactly 0 (offset is -(vMin x factor)), so mapping
+// an unclamped value and saturating the result gives the clamped result.  Only the top is
+// then clamped, after the mapping, to keep the conversion in range; NaN stays NaN through
+// minps and converts to 0 like a value below the range.
+template <bool kClampTop>
 struct Scale32f8u {
     static constexpr bool kVector = true;
     float vMin, vMax, factor, offset;
@@ -252,11 +282,15 @@ struct Scale32f8u {
     }
     lanes::I4 lanes(const lanes::F4& x) const
     {
-        const __m128 lo = _mm_set1_ps(vMin), hi = _mm_set1_ps(vMax);
+        const __m128 lo = _mm_set1_ps(vMin), hi = _mm_set1_ps(vMax), top = _mm_set1_ps(255.0f);
         const __m128 f = _mm_set1_ps(factor), o = _mm_set1_ps(offset);
         lanes::I4 r;
-        for (int k = 0; k < 4; ++k)
-            r.v[k] = _mm_cvtps_epi32(_mm_add_ps(_mm_mul_ps(_mm_min_ps(_mm_max_ps(x.v[k], lo), hi), f), o));
+        for (int k = 0; k < 4; ++k) {
+            if constexpr (kClampTop)
+                r.v[k] = _mm_cvtps_epi32(_mm_add_ps(_mm_mul_ps(_mm_min_ps(_mm_max_ps(x.v[k], lo), hi), f), o));
+            else
+                r.v[k] = _mm_cvtps_epi32(_mm_min_ps(top, _mm_add_ps(_mm_mul_ps(x.v[k], f), o)));
+        }
         return r;
     }
 };

@@ -21,15 +21,26 @@ constexpr int channelsOf(Layout l) { return l == AC4 ? 4 : int(l); }
 template <class St, class Op, class S, class D>
 inline void block(const S* s, D* d, const Op& op)
 {
-    lanes::store<St>(d, op.lanes(lanes::load(s)));
+    if constexpr (requires { Op::template direct<St>(s, d); })
+        Op::template direct<St>(s, d);
+    else
+        lanes::store<St>(d, op.lanes(lanes::load(s)));
 }
 
 template <class Op, class S, class D>
 void row(const S* s, D* d, long n, const Op& op)
 {
     long i = 0;
-    if constexpr (Op::kVector)
-        for (; i + lanes::kBlock <= n; i += lanes::kBlock) block<lanes::StoreU>(s + i, d + i, op);
+    if constexpr (Op::kVector) {
+        for (; i + 2 * lanes::kBlock <= n; i += 2 * lanes::kBlock) {  // two blocks in flight
+            block<lanes::StoreU>(s + i, d + i, op);
+            block<lanes::StoreU>(s + i + lanes::kBlock, d + i + lanes::kBlock, op);
+        }
+        if (i + lanes::kBlock <= n) {
+            block<lanes::StoreU>(s + i, d + i, op);
+            i += lanes::kBlock;
+        }
+    }
     for (; i < n; ++i) d[i] = op.scalar(s[i]);
 }
 

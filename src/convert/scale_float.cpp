@@ -46,9 +46,13 @@ KroStatus scale32f8u(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, 
     KROI_CHECK(check::pointers(pSrc, pDst));
     KROI_CHECK(check::roi(roiSize));
     KROI_CHECK(check::steps(srcStep, dstStep));
-    const float factor = 255.0f / (vMax - vMin);
-    const Scale32f8u op{vMin, vMax, factor, -vMin * factor};
-    run<L>(pSrc, srcStep, pDst, dstStep, roiSize, oneRowScale<L, Kro32f, Kro8u>(srcStep, dstStep, roiSize), op);
+    const float factor = 255.0f / (vMax - vMin), offset = -vMin * factor;
+    const bool oneRow = oneRowScale<L, Kro32f, Kro8u>(srcStep, dstStep, roiSize);
+    const float top = vMax * factor + offset;  // what vMax maps to, before rounding
+    if (top > 254.5f && std::isfinite(factor) && std::isfinite(offset))
+        run<L>(pSrc, srcStep, pDst, dstStep, roiSize, oneRow, Scale32f8u<false>{vMin, vMax, factor, offset});
+    else
+        run<L>(pSrc, srcStep, pDst, dstStep, roiSize, oneRow, Scale32f8u<true>{vMin, vMax, factor, offset});
     return kroStsOk;
 }
 

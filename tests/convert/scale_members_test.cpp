@@ -131,7 +131,8 @@ TEST(ScaleInteger, LargeImagesStream)
 struct Range {
     float vMin, vMax;
 };
-const Range kRanges[] = {{0, 1}, {-1, 1}, {0, 255}, {-1000, 3000}, {1e-3f, 2e-3f}, {5, 5.0001f}, {-3e38f, 3e38f}};
+const Range kRanges[] = {{0, 1},         {-1, 1},       {0, 255},          {-1000, 3000},  {1e-3f, 2e-3f},
+                         {5, 5.0001f},   {-3e38f, 3e38f}, {1e6f, 1e6f + 1}, {-1e7f - 3, -1e7f}};
 
 // 8u to 32f: factor = (vMax - vMin) / 255, v x factor + vMin, all in single precision.
 float toFloatRule(Kro8u v, Range r)
