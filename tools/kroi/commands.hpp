@@ -25,6 +25,8 @@ int runPngRoundtrip(const Args& args); // roundtrip.cpp
 // section ARITHC
 // end of section ARITHC
 // section CONVERT
+int runConvert(const Args& args); // convert.cpp
+int runScale(const Args& args);   // convert.cpp
 // end of section CONVERT
 // section LAYOUT
 // end of section LAYOUT

@@ -103,6 +103,9 @@ std::span<const DemoEntry> demoEntries();
 // section ARITHC
 // end of section ARITHC
 // section CONVERT
+Image scale8u16u(DemoContext& ctx);
+Image stretch32f8u(DemoContext& ctx);
+Image scaleC8u(DemoContext& ctx);
 // end of section CONVERT
 // section LAYOUT
 // end of section LAYOUT
