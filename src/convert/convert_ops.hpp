@@ -300,13 +300,45 @@ struct Scale32f8u {
 // integers to nearest with ties to even and saturated (NaN gives 0), floats to nearest.
 template <class S, class D>
 struct ScaleConst {
-    static constexpr bool kVector = false;
+    static constexpr bool kVector = lanes::kFits<S> && lanes::kFits<D>;
     double m, a;
     D scalar(S v) const
     {
         const double r = double(v) * m + a;
         if constexpr (kFloat<D>) return static_cast<D>(r);
         else return saturateIntegral<D>(roundHalfEven(r));
+    }
+
+    // Two doubles per register.  Integer results are clamped to the destination's range
+    // (bounds are integers, so clamping before rounding changes nothing) and converted by
+    // cvtpd2dq, to nearest with ties to even under the call's rounding scope.
+    template <class X>
+    auto lanes(const X& x) const
+    {
+        const __m128d mv = _mm_set1_pd(m), av = _mm_set1_pd(a);
+        const __m128d lo = _mm_set1_pd(double(std::numeric_limits<D>::lowest()));
+        const __m128d hi = _mm_set1_pd(double(std::numeric_limits<D>::max()));
+        std::conditional_t<kFloat<D>, lanes::F4, lanes::I4> out;
+        for (int k = 0; k < 4; ++k) {
+            __m128d r0, r1;
+            if constexpr (std::is_same_v<X, lanes::F4>) {
+                r0 = _mm_cvtps_pd(x.v[k]);
+                r1 = _mm_cvtps_pd(_mm_movehl_ps(x.v[k], x.v[k]));
+            } else {
+                r0 = _mm_cvtepi32_pd(x.v[k]);
+                r1 = _mm_cvtepi32_pd(_mm_shuffle_epi32(x.v[k], 0x0E));
+            }
+            r0 = _mm_add_pd(_mm_mul_pd(r0, mv), av);
+            r1 = _mm_add_pd(_mm_mul_pd(r1, mv), av);
+            if constexpr (kFloat<D>) {
+                out.v[k] = _mm_movelh_ps(_mm_cvtpd_ps(r0), _mm_cvtpd_ps(r1));
+            } else {
+                r0 = _mm_min_pd(_mm_max_pd(_mm_and_pd(r0, _mm_cmpord_pd(r0, r0)), lo), hi);  // NaN to 0
+                r1 = _mm_min_pd(_mm_max_pd(_mm_and_pd(r1, _mm_cmpord_pd(r1, r1)), lo), hi);
+                out.v[k] = _mm_unpacklo_epi64(_mm_cvtpd_epi32(r0), _mm_cvtpd_epi32(r1));
+            }
+        }
+        return out;
     }
 };
 
