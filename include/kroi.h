@@ -353,7 +353,9 @@ void kroiFree(void* ptr);
 /* section CONVERT */
 
 /* Convert: changes the element type value for value.  Layouts C1, C3, C4, AC4 unless the name
- * says otherwise; AC4 never writes the fourth element of a pixel.
+ * says otherwise; AC4 never writes the fourth element of a pixel.  Every function of Convert,
+ * Scale and ScaleC returns with the caller's MXCSR exactly as it was, exception flags
+ * included, on success and on error.
  *
  * Without a rounding argument (R and Rs forms): widening is exact; narrowing saturates to the
  * destination's range; Rs (signed to unsigned) turns negative values into 0.  32s and 32u to
@@ -497,8 +499,9 @@ KroStatus kroiConvert_32f32u_C1IRSfs(Kro32u* pSrcDst, int srcDstStep, KroiSize r
  *   nearest and converted with ties to even; 32s: (v + 2^31) x 255 / (2^32 - 1) rounded to
  *   nearest, computed exactly (no value falls on a half).
  * Checks: null -8; size -6; a step < 1 -16.  Both steps equal to their rows' bytes: one row.
- * Above 2 MiB of source and destination together (for example 699,050 pixels of 8u to 16s)
- * the destination is written with non-temporal stores, except in AC4. */
+ * Above 2 MiB of source and destination together (counting every channel; for C1 8u to
+ * 16s, above 699,050 pixels) the destination is written with non-temporal stores, except in
+ * AC4. */
 
 KroStatus kroiScale_8u16u_C1R(const Kro8u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
 KroStatus kroiScale_8u16u_C3R(const Kro8u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
