@@ -166,6 +166,9 @@ constexpr int kSfsModes[] = {1, 0, 2, 9};
 
 // The exact value times 2^-sf rounded by mode (long double holds every source and the power
 // of two exactly for these factors).
+template <class S>
+constexpr double kFloatReach = std::is_floating_point_v<S> ? double(std::numeric_limits<S>::max()) / 4 : 1e30;
+
 template <class S, class D>
 D sfsRule(S v, int mode, int sf)
 {
@@ -185,7 +188,9 @@ void sfsMember(const char* name, KroStatus (*fn)(const S*, int, D*, int, KroiSiz
     for (int mode : kSfsModes)
         for (int sf : factors) {
             const std::string what = std::string(name) + " mode " + std::to_string(mode) + " sf " + std::to_string(sf);
-            const FloatSource fs{-std::ldexp(1.0, sf) * 70000.0, std::ldexp(1.0, sf) * 70000.0};
+            // Values around the destination's range once scaled, within the source's range.
+            const double reach = std::fmin(std::ldexp(70000.0, sf), kFloatReach<S>);
+            const FloatSource fs{-reach, reach};
             sweep<S, D>(
                 what, 1,
                 [&](const S* s, int ss, D* d, int ds, KroiSize roi) { return fn(s, ss, d, ds, roi, mode, sf); },
