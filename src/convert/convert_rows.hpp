@@ -90,6 +90,12 @@ void run(const S* s, int ss, D* d, int ds, KroiSize roi, bool oneRow, const Op& 
                 return;
             }
         }
+        if constexpr (requires { Op::row_sse41(s, d, n); }) {
+            if (cpu::hasSse41()) {
+                for (int y = 0; y < height; ++y) Op::row_sse41(src.row(y), dst.row(y), n);
+                return;
+            }
+        }
         for (int y = 0; y < height; ++y) row(src.row(y), dst.row(y), n, op);
     }
 }
