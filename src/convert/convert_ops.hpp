@@ -118,7 +118,7 @@ struct FloatToInt {
         const __m128 f = _mm_set1_ps(factor), half = _mm_set1_ps(0.5f), mhalf = _mm_set1_ps(-0.5f);
         lanes::I4 r;
         for (int k = 0; k < 4; ++k) {
-            __m128 v = kScaled ? _mm_mul_ps(x.v[k], f) : x.v[k];
+            const __m128 v = kScaled ? _mm_mul_ps(x.v[k], f) : x.v[k];
             if constexpr (!kAway) {
                 // Only large positive values need clamping before the conversion: NaN and
                 // values below -2^31 convert to INT32_MIN, which the packs saturate to the
@@ -127,14 +127,12 @@ struct FloatToInt {
                 // when either is NaN.)
                 const __m128i c = _mm_cvtps_epi32(_mm_min_ps(hi, v));
                 r.v[k] = std::is_signed_v<D> ? _mm_and_si128(c, _mm_castps_si128(_mm_cmpord_ps(v, v))) : c;
-                continue;
-            }
-            v = _mm_and_ps(v, _mm_cmpord_ps(v, v));  // NaN to 0
-            v = _mm_min_ps(_mm_max_ps(v, lo), hi);    // in range, so the conversion is exact
-            if constexpr (kAway) {
-                // Truncate, then step away from zero when the dropped part is at least one half.
-                const __m128i t = _mm_cvttps_epi32(v);
-                const __m128 d = _mm_sub_ps(v, _mm_cvtepi32_ps(t));
+            } else {
+                // NaN to 0, clamp so that the conversion is exact, truncate, then step away
+                // from zero when the dropped part is at least one half.
+                const __m128 w = _mm_min_ps(_mm_max_ps(_mm_and_ps(v, _mm_cmpord_ps(v, v)), lo), hi);
+                const __m128i t = _mm_cvttps_epi32(w);
+                const __m128 d = _mm_sub_ps(w, _mm_cvtepi32_ps(t));
                 const __m128i up = _mm_castps_si128(_mm_cmpge_ps(d, half));
                 const __m128i down = _mm_castps_si128(_mm_cmple_ps(d, mhalf));
                 r.v[k] = _mm_add_epi32(_mm_sub_epi32(t, up), down);
