@@ -8,8 +8,16 @@ namespace KROI_TIER::cvt {
 
 namespace {
 
-// An empty range, NaN included: -12.
-KroStatus range(Kro32f vMin, Kro32f vMax) { return vMax - vMin > 0.0f ? kroStsOk : kroStsEmptyScaleRangeErr; }
+// The group's checks, in order: an empty range (NaN included) -12, then pointers, size and
+// steps.  Called inside the caller's rounding scope, since the range test raises flags too.
+template <class S, class D>
+KroStatus checks(const S* pSrc, int srcStep, const D* pDst, int dstStep, KroiSize roi, Kro32f vMin, Kro32f vMax)
+{
+    KROI_CHECK(vMax - vMin > 0.0f ? kroStsOk : kroStsEmptyScaleRangeErr);
+    KROI_CHECK(check::pointers(pSrc, pDst));
+    KROI_CHECK(check::roi(roi));
+    return check::steps(srcStep, dstStep);
+}
 
 // Both steps equal the row's bytes and the pixel count stays below 2^31 - 1.
 template <Layout L, class S, class D>
@@ -24,12 +32,9 @@ template <Layout L>
 KroStatus scale8u32f(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f vMin,
                      Kro32f vMax)
 {
-    RoundingScope scope(RoundingScope::kNearest);  // opened first: the range check raises flags too
+    RoundingScope scope(RoundingScope::kNearest);
     underScope(vMin, vMax);
-    KROI_CHECK(range(vMin, vMax));
-    KROI_CHECK(check::pointers(pSrc, pDst));
-    KROI_CHECK(check::roi(roiSize));
-    KROI_CHECK(check::steps(srcStep, dstStep));
+    KROI_CHECK(checks(pSrc, srcStep, pDst, dstStep, roiSize, vMin, vMax));
     const Scale8u32f op{(vMax - vMin) / 255.0f, vMin};
     run<L>(pSrc, srcStep, pDst, dstStep, roiSize, oneRowScale<L, Kro8u, Kro32f>(srcStep, dstStep, roiSize), op,
            storesFor<L, Kro8u, Kro32f>(roiSize));
@@ -40,12 +45,9 @@ template <Layout L>
 KroStatus scale32f8u(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro32f vMin,
                      Kro32f vMax)
 {
-    RoundingScope scope(RoundingScope::kNearest);  // opened first: the range check raises flags too
+    RoundingScope scope(RoundingScope::kNearest);
     underScope(vMin, vMax);
-    KROI_CHECK(range(vMin, vMax));
-    KROI_CHECK(check::pointers(pSrc, pDst));
-    KROI_CHECK(check::roi(roiSize));
-    KROI_CHECK(check::steps(srcStep, dstStep));
+    KROI_CHECK(checks(pSrc, srcStep, pDst, dstStep, roiSize, vMin, vMax));
     const float factor = 255.0f / (vMax - vMin), offset = -vMin * factor;
     const bool oneRow = oneRowScale<L, Kro32f, Kro8u>(srcStep, dstStep, roiSize);
     const float top = vMax * factor + offset;  // what vMax maps to, before rounding
