@@ -71,11 +71,21 @@ S draw(kt::Rng& rng, const FloatSource& fs)
     }
 }
 
+// Padding and offset count elements, so that every row of a 16- or 32-bit image stays
+// aligned to its element (a misaligned element pointer is the caller's fault) while starts
+// still fall anywhere relative to 16 bytes.
 struct Geometry {
     int width, height, padSrc, padDst;
     kt::Guard guard;
     int offset;
 };
+
+template <class T>
+kt::Shape shapeOf(const Geometry& g, int channels, int pad)
+{
+    const int size = int(sizeof(T));
+    return kt::Shape{g.width, g.height, channels, pad * size, g.guard, g.offset * size};
+}
 
 // Widths around the 16-element block, heights that merge or not, tight and padded steps,
 // the guard page after the last byte or before the first (with odd starts).
@@ -104,8 +114,8 @@ template <class S, class D, class Call, class Ref, class Fill>
 void runOnce(const std::string& what, int layout, const Geometry& g, Call& call, Ref& ref, Fill&& fill)
 {
     const int ch = channelsOf(layout), wr = writtenOf(layout);
-    kt::Guarded<S> src(kt::Shape{g.width, g.height, ch, g.padSrc, g.guard, g.offset});
-    kt::Guarded<D> dst(kt::Shape{g.width, g.height, ch, g.padDst, g.guard, g.offset});
+    kt::Guarded<S> src(shapeOf<S>(g, ch, g.padSrc));
+    kt::Guarded<D> dst(shapeOf<D>(g, ch, g.padDst));
     fill(src);
     dst.fillBytes(0xA5);
     const auto before = dst.snapshot();
@@ -150,7 +160,7 @@ void sweepInPlace(const std::string& what, Call call, Ref ref, kt::Rng& rng, con
 {
     static_assert(sizeof(S) == sizeof(D));
     for (const Geometry& g : fullGeometries()) {
-        kt::Guarded<D> img(kt::Shape{g.width, g.height, 1, g.padDst, g.guard, g.offset});
+        kt::Guarded<D> img(shapeOf<D>(g, 1, g.padDst));
         img.fillBytes(0xA5);
         std::vector<S> values;
         img.forEach([&](int, int, int, D& e) {
