@@ -1546,6 +1546,265 @@ KroStatus kroiRShiftC_32s_AC4IR(const Kro32u value[3], Kro32s* pSrcDst, int srcD
  * ======================================================================================= */
 /* section CONVERT */
 
+/* Convert: changes the element type value for value.  Layouts C1, C3, C4, AC4 unless the name
+ * says otherwise; AC4 never writes the fourth element of a pixel.  Every function of Convert,
+ * Scale and ScaleC returns with the caller's MXCSR exactly as it was, exception flags
+ * included, on success and on error.
+ *
+ * Without a rounding argument (R and Rs forms): widening is exact; narrowing saturates to the
+ * destination's range; Rs (signed to unsigned) turns negative values into 0.  32s and 32u to
+ * 32f round to nearest with ties to even, whatever rounding the caller's SSE control holds.
+ * Checks: pSrc or pDst null -8; width or height < 1 -6; srcStep or dstStep < 1 -16.  When both
+ * steps equal their rows' bytes the ROI is converted as one row. */
+
+KroStatus kroiConvert_8u16u_C1R(const Kro8u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8u16u_C3R(const Kro8u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8u16u_C4R(const Kro8u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8u16u_AC4R(const Kro8u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8u16s_C3R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8u16s_C4R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8u16s_AC4R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8u32s_C1R(const Kro8u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8u32s_C3R(const Kro8u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8u32s_C4R(const Kro8u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8u32s_AC4R(const Kro8u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8u32f_C1R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8u32f_C3R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8u32f_C4R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8u32f_AC4R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8s16s_C1R(const Kro8s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8s32s_C1R(const Kro8s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8s32s_C3R(const Kro8s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8s32s_C4R(const Kro8s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8s32s_AC4R(const Kro8s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8s32f_C1R(const Kro8s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8s32f_C3R(const Kro8s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8s32f_C4R(const Kro8s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8s32f_AC4R(const Kro8s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8s64f_C1R(const Kro8s* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16u32s_C1R(const Kro16u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16u32s_C3R(const Kro16u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16u32s_C4R(const Kro16u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16u32s_AC4R(const Kro16u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16u32f_C1R(const Kro16u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16u32f_C3R(const Kro16u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16u32f_C4R(const Kro16u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16u32f_AC4R(const Kro16u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16u32u_C1R(const Kro16u* pSrc, int srcStep, Kro32u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16s32s_C1R(const Kro16s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16s32s_C3R(const Kro16s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16s32s_C4R(const Kro16s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16s32s_AC4R(const Kro16s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16s32f_C1R(const Kro16s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16s32f_C3R(const Kro16s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16s32f_C4R(const Kro16s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16s32f_AC4R(const Kro16s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_32s32f_C1R(const Kro32s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_32u32f_C1R(const Kro32u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16u8u_C1R(const Kro16u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16u8u_C3R(const Kro16u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16u8u_C4R(const Kro16u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16u8u_AC4R(const Kro16u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16s8u_C1R(const Kro16s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16s8u_C3R(const Kro16s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16s8u_C4R(const Kro16s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16s8u_AC4R(const Kro16s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_32s8u_C1R(const Kro32s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_32s8u_C3R(const Kro32s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_32s8u_C4R(const Kro32s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_32s8u_AC4R(const Kro32s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_32s8s_C1R(const Kro32s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_32s8s_C3R(const Kro32s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_32s8s_C4R(const Kro32s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_32s8s_AC4R(const Kro32s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8s8u_C1Rs(const Kro8s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8s16u_C1Rs(const Kro8s* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_8s32u_C1Rs(const Kro8s* pSrc, int srcStep, Kro32u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16s16u_C1Rs(const Kro16s* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_16s32u_C1Rs(const Kro16s* pSrc, int srcStep, Kro32u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiConvert_32s32u_C1Rs(const Kro32s* pSrc, int srcStep, Kro32u* pDst, int dstStep, KroiSize roiSize);
+
+/* Float to integer with a rounding mode (32f to 8u, 8s, 16u, 16s): roundMode 0 rounds toward
+ * zero and 1 to nearest with ties to even, both by the SSE rounding control set for the call
+ * and restored before return (flags included); 2 and every other value round to nearest with
+ * ties away from zero.  No mode value is rejected.  Results saturate to the destination's
+ * range; NaN gives 0, infinities saturate.  Checks: null -8; size -6; a step < 1 -16.  Both
+ * steps equal to their rows' bytes: the ROI is converted as one row.
+ * Example: 2.5 gives 2, 2, 3 with modes 0, 1, 2; -1.0 gives 0 in 8u; 300.0 gives 255. */
+
+KroStatus kroiConvert_32f8u_C1R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f8u_C3R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f8u_C4R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f8u_AC4R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f8s_C1R(const Kro32f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f8s_C3R(const Kro32f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f8s_C4R(const Kro32f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f8s_AC4R(const Kro32f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f16u_C1R(const Kro32f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f16u_C3R(const Kro32f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f16u_C4R(const Kro32f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f16u_AC4R(const Kro32f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f16s_C1R(const Kro32f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f16s_C3R(const Kro32f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f16s_C4R(const Kro32f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+KroStatus kroiConvert_32f16s_AC4R(const Kro32f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode);
+
+/* RSfs conversions (C1): each element times 2^-scaleFactor, rounded by roundMode (as above:
+ * 0 toward zero, 1 ties to even, any other value ties away from zero), saturated.  Integer
+ * sources round the exact scaled value by the same mode, in integers; a negative
+ * scaleFactor shifts left exactly and saturates.  Float and double sources scale exactly
+ * (2^-scaleFactor applied without loss wherever the result can matter); NaN gives 0.
+ * Checks: null -8; size -6; the steps are not checked and are used as given.  When the
+ * source step is width x source element size and the destination step is width x
+ * destination element size the ROI is converted as one row.  kroiConvert_32f32u_C1IRSfs
+ * reads each element of pSrcDst as a float and writes it back as a 32-bit unsigned integer. */
+
+KroStatus kroiConvert_8u8s_C1RSfs(const Kro8u* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_16u8s_C1RSfs(const Kro16u* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_16s8s_C1RSfs(const Kro16s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_16u16s_C1RSfs(const Kro16u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32s16s_C1RSfs(const Kro32s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32s16u_C1RSfs(const Kro32s* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32u8u_C1RSfs(const Kro32u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32u8s_C1RSfs(const Kro32u* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32u16u_C1RSfs(const Kro32u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32u16s_C1RSfs(const Kro32u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32u32s_C1RSfs(const Kro32u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32f8u_C1RSfs(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32f8s_C1RSfs(const Kro32f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32f16u_C1RSfs(const Kro32f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32f16s_C1RSfs(const Kro32f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32f32s_C1RSfs(const Kro32f* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32f32u_C1RSfs(const Kro32f* pSrc, int srcStep, Kro32u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_64f8u_C1RSfs(const Kro64f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_64f8s_C1RSfs(const Kro64f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_64f16u_C1RSfs(const Kro64f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_64f16s_C1RSfs(const Kro64f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+KroStatus kroiConvert_32f32u_C1IRSfs(Kro32u* pSrcDst, int srcDstStep, KroiSize roiSize, KroRoundMode roundMode, int scaleFactor);
+
+/* Scale: maps the whole range of one type onto the whole range of the other.  Layouts C1,
+ * C3, C4, AC4.
+ *   8u to 16u: v x 257.  8u to 16s: v x 257 - 32768.  8u to 32s: v x 16843009 - 2^31.
+ *   16s to 8u, fast (any hint but 2): ((v - (v >> 8)) >> 8) + 128, arithmetic shifts.
+ *   16u to 8u, fast: the same on v - 32768.  32s to 8u, fast: ((v - (v >> 8)) >> 24) + 128.
+ *   Accurate (hint 2): 16s: (v + 32768) x 0.0038910505827516317 (255/65535 in single
+ *   precision), 16u: v x the same constant, the product in single precision rounded to
+ *   nearest and converted with ties to even; 32s: (v + 2^31) x 255 / (2^32 - 1) rounded to
+ *   nearest, computed exactly (no value falls on a half).
+ * Checks: null -8; size -6; a step < 1 -16.  Both steps equal to their rows' bytes: one row.
+ * Above 2 MiB of source and destination together (counting every channel; for C1 8u to
+ * 16s, above 699,050 pixels) the destination is written with non-temporal stores, except in
+ * AC4. */
+
+KroStatus kroiScale_8u16u_C1R(const Kro8u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiScale_8u16u_C3R(const Kro8u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiScale_8u16u_C4R(const Kro8u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiScale_8u16u_AC4R(const Kro8u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiScale_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiScale_8u16s_C3R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiScale_8u16s_C4R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiScale_8u16s_AC4R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiScale_8u32s_C1R(const Kro8u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiScale_8u32s_C3R(const Kro8u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiScale_8u32s_C4R(const Kro8u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiScale_8u32s_AC4R(const Kro8u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiScale_16u8u_C1R(const Kro16u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
+KroStatus kroiScale_16u8u_C3R(const Kro16u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
+KroStatus kroiScale_16u8u_C4R(const Kro16u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
+KroStatus kroiScale_16u8u_AC4R(const Kro16u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
+KroStatus kroiScale_16s8u_C1R(const Kro16s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
+KroStatus kroiScale_16s8u_C3R(const Kro16s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
+KroStatus kroiScale_16s8u_C4R(const Kro16s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
+KroStatus kroiScale_16s8u_AC4R(const Kro16s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
+KroStatus kroiScale_32s8u_C1R(const Kro32s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
+KroStatus kroiScale_32s8u_C3R(const Kro32s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
+KroStatus kroiScale_32s8u_C4R(const Kro32s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
+KroStatus kroiScale_32s8u_AC4R(const Kro32s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroAlgorithmHint hint);
+
+/* Scale with a float range [vMin, vMax].
+ *   8u to 32f: factor = (vMax - vMin) / 255 in single precision; dst = v x factor + vMin.
+ *   32f to 8u: factor = 255 / (vMax - vMin), offset = -vMin x factor; each value is clamped
+ *   to [vMin, vMax] (NaN takes vMin, so gives 0), then dst = value x factor + offset,
+ *   rounded to nearest with ties to even.
+ * All float arithmetic is single precision rounded to nearest, set for the call and restored.
+ * Checks, in this order: vMax - vMin not greater than 0 (NaN included) -12, before the
+ * pointers; null -8; size -6; a step < 1 -16.  Both steps equal to their rows' bytes and
+ * width x height below 2^31 - 1: one row.  8u to 32f streams its stores above 2 MiB of
+ * source and destination together (419,430 pixels of C1), except in AC4. */
+
+KroStatus kroiScale_8u32f_C1R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f vMin, Kro32f vMax);
+KroStatus kroiScale_8u32f_C3R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f vMin, Kro32f vMax);
+KroStatus kroiScale_8u32f_C4R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f vMin, Kro32f vMax);
+KroStatus kroiScale_8u32f_AC4R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f vMin, Kro32f vMax);
+KroStatus kroiScale_32f8u_C1R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro32f vMin, Kro32f vMax);
+KroStatus kroiScale_32f8u_C3R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro32f vMin, Kro32f vMax);
+KroStatus kroiScale_32f8u_C4R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro32f vMin, Kro32f vMax);
+KroStatus kroiScale_32f8u_AC4R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro32f vMin, Kro32f vMax);
+
+/* ScaleC (C1): dst = v x mVal + aVal, computed in double precision rounded to nearest (set
+ * for the call), then rounded once to the destination: integers to nearest with ties to even
+ * and saturated (NaN gives 0, infinities saturate), 32f to nearest, 64f as computed.  Every
+ * pair of 8u, 8s, 16u, 16s, 32s, 32f, 64f; one type code when source and destination agree;
+ * the IR forms work in place.  Checks: null -8; size -6; a step < 1 -16. */
+
+KroStatus kroiScaleC_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8u8s_C1R(const Kro8u* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8u16u_C1R(const Kro8u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8u32s_C1R(const Kro8u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8u32f_C1R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8u64f_C1R(const Kro8u* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8s8u_C1R(const Kro8s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8s_C1R(const Kro8s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8s16u_C1R(const Kro8s* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8s16s_C1R(const Kro8s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8s32s_C1R(const Kro8s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8s32f_C1R(const Kro8s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8s64f_C1R(const Kro8s* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16u8u_C1R(const Kro16u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16u8s_C1R(const Kro16u* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16u16s_C1R(const Kro16u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16u32s_C1R(const Kro16u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16u32f_C1R(const Kro16u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16u64f_C1R(const Kro16u* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16s8u_C1R(const Kro16s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16s8s_C1R(const Kro16s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16s16u_C1R(const Kro16s* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16s32s_C1R(const Kro16s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16s32f_C1R(const Kro16s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_16s64f_C1R(const Kro16s* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32s8u_C1R(const Kro32s* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32s8s_C1R(const Kro32s* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32s16u_C1R(const Kro32s* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32s16s_C1R(const Kro32s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32s_C1R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32s32f_C1R(const Kro32s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32s64f_C1R(const Kro32s* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32f8u_C1R(const Kro32f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32f8s_C1R(const Kro32f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32f16u_C1R(const Kro32f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32f16s_C1R(const Kro32f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32f32s_C1R(const Kro32f* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_32f64f_C1R(const Kro32f* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_64f8u_C1R(const Kro64f* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_64f8s_C1R(const Kro64f* pSrc, int srcStep, Kro8s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_64f16u_C1R(const Kro64f* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_64f16s_C1R(const Kro64f* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_64f32s_C1R(const Kro64f* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_64f32f_C1R(const Kro64f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_64f_C1R(const Kro64f* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize, Kro64f mVal, Kro64f aVal);
+KroStatus kroiScaleC_8u_C1IR(Kro64f mVal, Kro64f aVal, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiScaleC_8s_C1IR(Kro64f mVal, Kro64f aVal, Kro8s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiScaleC_16u_C1IR(Kro64f mVal, Kro64f aVal, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiScaleC_16s_C1IR(Kro64f mVal, Kro64f aVal, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiScaleC_32s_C1IR(Kro64f mVal, Kro64f aVal, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiScaleC_32f_C1IR(Kro64f mVal, Kro64f aVal, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiScaleC_64f_C1IR(Kro64f mVal, Kro64f aVal, Kro64f* pSrcDst, int srcDstStep, KroiSize roiSize);
+
 /* end of section CONVERT */
 
 /* =======================================================================================

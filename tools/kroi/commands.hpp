@@ -37,6 +37,8 @@ int runAddC(const Args& args);  // arithc.cpp
 int runMulC(const Args& args);  // arithc.cpp
 // end of section ARITHC
 // section CONVERT
+int runConvert(const Args& args); // convert.cpp
+int runScale(const Args& args);   // convert.cpp
 // end of section CONVERT
 // section LAYOUT
 // end of section LAYOUT

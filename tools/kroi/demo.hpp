@@ -118,6 +118,9 @@ Image demoXor(DemoContext& ctx);     // demo_arithc.cpp
 Image demoRShiftC(DemoContext& ctx); // demo_arithc.cpp
 // end of section ARITHC
 // section CONVERT
+Image scale8u16u(DemoContext& ctx);
+Image stretch32f8u(DemoContext& ctx);
+Image scaleC8u(DemoContext& ctx);
 // end of section CONVERT
 // section LAYOUT
 // end of section LAYOUT

@@ -133,6 +133,9 @@ constexpr DemoEntry kEntries[] = {
     {"rshiftc-8u-c3", "kroiRShiftC_8u_C3R(src, srcStep, (Kro32u[]){0, 1, 3}, dst, dstStep, {512, 384})", demoRShiftC},
     // end of section ARITHC
     // section CONVERT
+    {"scale-8u16u-c3", "kroiScale_8u16u_C3R(src, srcStep, dst, dstStep, {512, 384})", scale8u16u},
+    {"scale-32f8u-stretch", "kroiScale_32f8u_C3R(src, srcStep, dst, dstStep, {512, 384}, 60.0f, 190.0f)", stretch32f8u},
+    {"scalec-8u", "kroiScaleC_8u_C1R(src, srcStep, dst, dstStep, {3 * 512, 384}, 1.4, -40.0)", scaleC8u},
     // end of section CONVERT
     // section LAYOUT
     // end of section LAYOUT

@@ -68,6 +68,15 @@ constexpr Command kCommands[] = {
     {"shift", "kroi shift IN.png COUNT OUT.png\n    samples shifted left by COUNT bits, right for a negative COUNT", runShift},
     // end of section ARITHC
     // section CONVERT
+    {"convert",
+     "kroi convert IN.png OUT.png --to 8u|16u [--values] [--fast]\n"
+     "    change the sample depth: whole range onto whole range (accurate, or --fast), or\n"
+     "    with --values the same values, saturated",
+     runConvert},
+    {"scale",
+     "kroi scale IN.png OUT.png --mul M [--add A] [--to 8u|16u]\n"
+     "    every sample times M plus A, rounded to nearest and saturated",
+     runScale},
     // end of section CONVERT
     // section LAYOUT
     // end of section LAYOUT

@@ -1,0 +1,112 @@
+// Row loops of the conversion family and the walk over an ROI.
+//
+// A row is width x channels elements; the loop runs the operation's vector body over whole
+// blocks of sixteen and its scalar body over the rest.  AC4 rows convert the first three
+// elements of each pixel and never touch the fourth.  The streaming loop, for large range
+// scalings, writes whole aligned blocks with non-temporal stores so that a destination far
+// larger than the cache does not evict the source.
+#pragma once
+
+#include <cstddef>
+
+#include "convert/convert_ops.hpp"
+#include "frame/rows.hpp"
+
+namespace KROI_TIER::cvt {
+
+// Channel layouts; AC4 is four interleaved channels of which the fourth is left alone.
+enum Layout : int { C1 = 1, C3 = 3, C4 = 4, AC4 = 5 };
+constexpr int channelsOf(Layout l) { return l == AC4 ? 4 : int(l); }
+
+template <class St, class Op, class S, class D>
+inline void block(const S* s, D* d, const Op& op)
+{
+    if constexpr (requires { Op::template direct<St>(s, d); })
+        Op::template direct<St>(s, d);
+    else
+        lanes::store<St>(d, op.lanes(lanes::load(s)));
+}
+
+template <class Op, class S, class D>
+void row(const S* s, D* d, long n, const Op& op)
+{
+    long i = 0;
+    if constexpr (Op::kVector) {
+        for (; i + 2 * lanes::kBlock <= n; i += 2 * lanes::kBlock) {  // two blocks in flight
+            block<lanes::StoreU>(s + i, d + i, op);
+            block<lanes::StoreU>(s + i + lanes::kBlock, d + i + lanes::kBlock, op);
+        }
+        if (i + lanes::kBlock <= n) {
+            block<lanes::StoreU>(s + i, d + i, op);
+            i += lanes::kBlock;
+        }
+    }
+    for (; i < n; ++i) d[i] = op.scalar(s[i]);
+}
+
+template <class Op, class S, class D>
+void rowAlpha(const S* s, D* d, long pixels, const Op& op)
+{
+    for (long x = 0; x < pixels; ++x, s += 4, d += 4) {
+        d[0] = op.scalar(s[0]);
+        d[1] = op.scalar(s[1]);
+        d[2] = op.scalar(s[2]);
+    }
+}
+
+// Scalar up to the first 16-byte boundary of the destination, streamed blocks, scalar tail.
+template <class Op, class S, class D>
+void rowStream(const S* s, D* d, long n, const Op& op)
+{
+    static_assert(Op::kVector);
+    long i = 0;
+    for (; i < n && (reinterpret_cast<uintptr_t>(d + i) & 15) != 0; ++i) d[i] = op.scalar(s[i]);
+    for (; i + lanes::kBlock <= n; i += lanes::kBlock) block<lanes::StoreNT>(s + i, d + i, op);
+    for (; i < n; ++i) d[i] = op.scalar(s[i]);
+}
+
+enum class Stores { plain, stream };
+
+// Runs op over the ROI: as one row when the caller's group allows it (oneRow), else row by
+// row.  Streaming needs an element-aligned destination (so that a 16-byte boundary can be
+// reached) and is never used for AC4, whose alpha must be left as it is.
+template <Layout L, class Op, class S, class D>
+void run(const S* s, int ss, D* d, int ds, KroiSize roi, bool oneRow, const Op& op,
+         Stores stores = Stores::plain)
+{
+    const long width = oneRow ? long(roi.width) * roi.height : roi.width;
+    const int height = oneRow ? 1 : roi.height;
+    const auto src = rows::image(s, ss);
+    const auto dst = rows::image(d, ds);
+    if constexpr (L == AC4) {
+        for (int y = 0; y < height; ++y) rowAlpha(src.row(y), dst.row(y), width, op);
+    } else {
+        const long n = width * L;
+        if constexpr (Op::kVector) {
+            if (stores == Stores::stream && reinterpret_cast<uintptr_t>(d) % sizeof(D) == 0 &&
+                ds % int(sizeof(D)) == 0) {
+                for (int y = 0; y < height; ++y) rowStream(src.row(y), dst.row(y), n, op);
+                _mm_sfence();  // streamed stores are ordered before the caller's next access
+                return;
+            }
+        }
+        if constexpr (requires { Op::row_sse41(s, d, n); }) {
+            if (cpu::hasSse41()) {
+                for (int y = 0; y < height; ++y) Op::row_sse41(src.row(y), dst.row(y), n);
+                return;
+            }
+        }
+        for (int y = 0; y < height; ++y) row(src.row(y), dst.row(y), n, op);
+    }
+}
+
+// The common one-row test: both steps equal the bytes of their rows.
+template <Layout L, class S, class D>
+bool contiguous(int ss, int ds, KroiSize roi)
+{
+    const std::ptrdiff_t px = std::ptrdiff_t(roi.width) * channelsOf(L);
+    return rows::merged(px * std::ptrdiff_t(sizeof(S)), rows::image(static_cast<const S*>(nullptr), ss)) &&
+           rows::merged(px * std::ptrdiff_t(sizeof(D)), rows::image(static_cast<D*>(nullptr), ds));
+}
+
+}  // namespace KROI_TIER::cvt
