@@ -450,8 +450,9 @@ KroStatus kroiTranspose_32fc_C1R(const Kro32fc* pSrc, int srcStep, Kro32fc* pDst
  *   the in-place form, checks included.  Otherwise: null -8; size -6; a flip outside 0..2
  *   -22 (also when the images differ).  With flip 0 or 1 on the same image and step the
  *   mirror is made in place after this form's checks.  Steps are used as given.
- *   Images larger than the biggest processor cache (kroGetMaxCacheSizeB) are written with
- *   streaming stores when the destination rows start on 16 bytes. */
+ *   Out of place, flip 1 of an image larger than the biggest processor cache
+ *   (kroGetMaxCacheSizeB) is written with streaming stores when the destination rows start
+ *   on 16 bytes; the result is the same. */
 KroStatus kroiMirror_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int flip);
 KroStatus kroiMirror_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int flip);
 KroStatus kroiMirror_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int flip);
@@ -511,7 +512,9 @@ KroStatus kroiDup_8u_C1C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstS
  *   Checks, in order: null source, constant array or destination -8; any step < 1 -16;
  *   width or height < 1 -6.  Then an operation code outside 0..4 (negative ones included)
  *   returns 0 and writes nothing; a tolerance eps below 0 gives -36.
- *   32f: every relation with a NaN is false (mask 0), and -0 equals +0. */
+ *   32f: every relation with a NaN is false (mask 0), and -0 equals +0.
+ *   One-channel masks of images larger than the biggest processor cache are written with
+ *   streaming stores when the destination rows start on 16 bytes. */
 KroStatus kroiCompare_8u_C1R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
 KroStatus kroiCompare_8u_C3R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
 KroStatus kroiCompare_8u_C4R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);

@@ -4,9 +4,9 @@
 // Rows are reversed in 16-byte blocks (pixels of 1, 2, 4, 8 or 16 bytes, by SSE2 shuffles)
 // or 48-byte blocks (pixels of 3, 6 or 12 bytes, by byte shuffles on processors with
 // SSE4.1); AC4 blocks take the destination's alpha back before they are stored.  The plain
-// per-pixel loops are the definition and do the rest of each row.  Out of place, an image
-// larger than the biggest cache is written with streaming stores, which do not read the
-// destination lines first and leave the cache to the source.
+// per-pixel loops are the definition and do the rest of each row.  Out of place, the
+// reversed rows of an image larger than the biggest cache are written with streaming
+// stores, which do not read the destination lines first and leave the cache to the source.
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -20,6 +20,7 @@
 #include "frame/bind.hpp"
 #include "frame/check.hpp"
 #include "frame/cpu.hpp"
+#include "convert/mirror_stream.hpp"
 
 namespace KROI_TIER::convert {
 
@@ -108,7 +109,6 @@ inline __m128i blend(__m128i colour, __m128i old, __m128i mask)
 
 inline __m128i load(const Byte* p) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p)); }
 inline void storeU(Byte* p, __m128i v) { _mm_storeu_si128(reinterpret_cast<__m128i*>(p), v); }
-inline void storeS(Byte* p, __m128i v) { _mm_stream_si128(reinterpret_cast<__m128i*>(p), v); }
 
 // Out of place: reverses the pixels of a row into d; returns the pixels done.  Streaming
 // stores need a 16-byte aligned destination row, which the caller has checked.
@@ -117,10 +117,7 @@ long reverseBlocks(const Byte* s, Byte* d, long n)
 {
     constexpr int E = sizeof(T), P = E * C;
     const long bytes = n * P;
-    auto store = [](Byte* p, __m128i v) {
-        if constexpr (kStream) storeS(p, v);
-        else storeU(p, v);
-    };
+    auto store = store16<kStream>;
     long i = 0;
     if constexpr (kSse2Reverse<P>) {
         if constexpr (W == C) {
@@ -158,9 +155,9 @@ static KROI_SSE41 long reverse48_sse41(const Byte* s, Byte* d, long bytes, const
             r[o] = _mm_or_si128(_mm_or_si128(_mm_shuffle_epi8(a0, k[o][0]), _mm_shuffle_epi8(a1, k[o][1])),
                                 _mm_shuffle_epi8(a2, k[o][2]));
         if (stream)
-            storeS(d + i, r[0]), storeS(d + i + 16, r[1]), storeS(d + i + 32, r[2]);
+            store16<true>(d + i, r[0]), store16<true>(d + i + 16, r[1]), store16<true>(d + i + 32, r[2]);
         else
-            storeU(d + i, r[0]), storeU(d + i + 16, r[1]), storeU(d + i + 32, r[2]);
+            store16<false>(d + i, r[0]), store16<false>(d + i + 16, r[1]), store16<false>(d + i + 32, r[2]);
     }
     return i;
 }
@@ -182,24 +179,11 @@ void reverseRow(const T* s, T* d, long n, bool sse41)
     reversePlain<T, C, W>(s, d, done, n);
 }
 
-template <class T, int C, int W, bool kStream>
+template <class T, int C, int W>
 void copyRow(const T* s, T* d, long n)
 {
-    constexpr int P = int(sizeof(T)) * C;
-    const Byte* sb = reinterpret_cast<const Byte*>(s);
-    Byte* db = reinterpret_cast<Byte*>(d);
-    const long bytes = n * P;
     if constexpr (W == C) {
-        if constexpr (kStream) {
-            long i = 0;
-            for (; i + 64 <= bytes; i += 64) {
-                const __m128i a = load(sb + i), b = load(sb + i + 16), c = load(sb + i + 32), e = load(sb + i + 48);
-                storeS(db + i, a), storeS(db + i + 16, b), storeS(db + i + 32, c), storeS(db + i + 48, e);
-            }
-            std::memcpy(db + i, sb + i, std::size_t(bytes - i));
-        } else {
-            std::memcpy(db, sb, std::size_t(bytes));
-        }
+        std::memcpy(d, s, std::size_t(n) * C * sizeof(T));
     } else {
         for (long x = 0; x < n; ++x) copyPixel<T, C, W>(s + x * C, d + x * C);
     }
@@ -261,13 +245,6 @@ void exchangeReversed(T* a, T* b, long n)
     for (long x = from; x < to; ++x) swapPixel<T, C, W>(a + x * C, b + (n - 1 - x) * C);
 }
 
-bool hugeImage(std::int64_t bytes)
-{
-    int cache = 0;
-    if (kroGetMaxCacheSizeB(&cache) != kroStsOk || cache <= 0) return false;
-    return bytes > cache;
-}
-
 template <class T, int C, int W, bool kStream>
 void mirrorRows(const T* pSrc, int srcStep, T* pDst, int dstStep, KroiSize roi, int flip)
 {
@@ -276,7 +253,7 @@ void mirrorRows(const T* pSrc, int srcStep, T* pDst, int dstStep, KroiSize roi, 
     auto drow = [&](long y) { return reinterpret_cast<T*>(reinterpret_cast<Byte*>(pDst) + y * dstStep); };
     const long h = roi.height, w = roi.width;
     for (long y = 0; y < h; ++y) {
-        if (flip == 0) copyRow<T, C, W, kStream>(srow(h - 1 - y), drow(y), w);
+        if (flip == 0) copyRow<T, C, W>(srow(h - 1 - y), drow(y), w);
         else if (flip == 1) reverseRow<T, C, W, kStream>(srow(y), drow(y), w, sse41);
         else reverseRow<T, C, W, kStream>(srow(h - 1 - y), drow(y), w, sse41);
     }
@@ -332,8 +309,9 @@ KroStatus mirror(const T* pSrc, int srcStep, T* pDst, int dstStep, KroiSize roiS
         return kroStsOk;
     }
     const std::int64_t rowBytes = std::int64_t(roiSize.width) * C * std::int64_t(sizeof(T));
-    const bool aligned = reinterpret_cast<std::uintptr_t>(pDst) % 16 == 0 && dstStep % 16 == 0;
-    if (aligned && hugeImage(2 * rowBytes * roiSize.height))
+    // Reversed rows of an image beyond the biggest cache stream out; measured, the row
+    // exchanges of flips 0 and 2 gain nothing from it and keep ordinary stores.
+    if (flip == 1 && streamRows(2 * rowBytes * roiSize.height, pDst, dstStep))
         mirrorRows<T, C, W, true>(pSrc, srcStep, pDst, dstStep, roiSize, flip);
     else
         mirrorRows<T, C, W, false>(pSrc, srcStep, pDst, dstStep, roiSize, flip);

@@ -91,29 +91,32 @@ void buildMasks4(const int* take, int E, Masks& m)
 
 // Outside the unnamed namespace so that the tier audit reads the kernel's name.
 // 48-byte blocks of three-channel pixels; all three loads precede the stores, so a block
-// may be reordered in place.
+// may be reordered in place.  A pixel is at most 12 bytes, so output vector 0 draws on input
+// bytes below 24 and output vector 2 on bytes from 24 up: seven of the nine masks can be
+// non-empty.
 static KROI_SSE41 void shuffle3_sse41(const unsigned char* s, unsigned char* d, long blocks, const Masks& m)
 {
-    __m128i k[3][3];
-    for (int o = 0; o < 3; ++o)
-        for (int i = 0; i < 3; ++i) k[o][i] = _mm_load_si128(reinterpret_cast<const __m128i*>(m.m3[o][i]));
+    auto mask = [&](int o, int i) { return _mm_load_si128(reinterpret_cast<const __m128i*>(m.m3[o][i])); };
+    const __m128i k00 = mask(0, 0), k01 = mask(0, 1), k10 = mask(1, 0), k11 = mask(1, 1), k12 = mask(1, 2);
+    const __m128i k21 = mask(2, 1), k22 = mask(2, 2);
     for (long b = 0; b < blocks; ++b, s += 48, d += 48) {
         const __m128i a0 = _mm_loadu_si128(reinterpret_cast<const __m128i*>(s));
         const __m128i a1 = _mm_loadu_si128(reinterpret_cast<const __m128i*>(s + 16));
         const __m128i a2 = _mm_loadu_si128(reinterpret_cast<const __m128i*>(s + 32));
-        __m128i r[3];
-        for (int o = 0; o < 3; ++o)
-            r[o] = _mm_or_si128(_mm_or_si128(_mm_shuffle_epi8(a0, k[o][0]), _mm_shuffle_epi8(a1, k[o][1])),
-                                _mm_shuffle_epi8(a2, k[o][2]));
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(d), r[0]);
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(d + 16), r[1]);
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(d + 32), r[2]);
+        const __m128i r0 = _mm_or_si128(_mm_shuffle_epi8(a0, k00), _mm_shuffle_epi8(a1, k01));
+        const __m128i r1 =
+            _mm_or_si128(_mm_or_si128(_mm_shuffle_epi8(a0, k10), _mm_shuffle_epi8(a1, k11)), _mm_shuffle_epi8(a2, k12));
+        const __m128i r2 = _mm_or_si128(_mm_shuffle_epi8(a1, k21), _mm_shuffle_epi8(a2, k22));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(d), r0);
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(d + 16), r1);
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(d + 32), r2);
     }
 }
 
 // 16-byte blocks of four-channel pixels; with `keepAlpha` the alpha bytes come from the
 // destination as it was.
-static KROI_SSE41 void shuffle4_sse41(const unsigned char* s, unsigned char* d, long blocks, const Masks& m, bool keepAlpha)
+static KROI_SSE41 void shuffle4_sse41(const unsigned char* s, unsigned char* d, long blocks, const Masks& m,
+                                      bool keepAlpha)
 {
     const __m128i k = _mm_load_si128(reinterpret_cast<const __m128i*>(m.m4));
     const __m128i keep = _mm_load_si128(reinterpret_cast<const __m128i*>(m.keep));
@@ -139,6 +142,28 @@ constexpr KroStatus nonZeroSteps(int a, int b)
     return (a == 0 || b == 0) ? kroStsBadStepErr : kroStsOk;
 }
 
+// Whole rows through the shuffle kernels, the tail of each row through the definition.
+template <class T, int SP, int DP, int DC>
+void blockRows(rows::Image<const T> s, rows::Image<T> d, long width, long height, const Order<T, DC>& o)
+{
+    constexpr int E = sizeof(T);
+    constexpr long kBlockPx = SP == 3 ? 48 / (3 * E) : 16 / (4 * E);
+    Masks m;
+    if constexpr (SP == 3) buildMasks3<DC>(o.take, E, m);
+    else buildMasks4<DC>(o.take, E, m);
+    for (long y = 0; y < height; ++y) {
+        const T* sr = s.row(y);
+        T* dr = d.row(y);
+        const long blocks = width / kBlockPx;
+        const auto* sb = reinterpret_cast<const unsigned char*>(sr);
+        auto* db = reinterpret_cast<unsigned char*>(dr);
+        if constexpr (SP == 3) shuffle3_sse41(sb, db, blocks, m);
+        else shuffle4_sse41(sb, db, blocks, m, DC < 4);
+        const long done = blocks * kBlockPx;
+        swapPixels<T, SP, DP, DC>(sr + done * SP, dr + done * DP, width - done, o);
+    }
+}
+
 template <class T, int SP, int DP, int DC>
 KroStatus run(const T* pSrc, int srcStep, T* pDst, int dstStep, KroiSize roi, const Order<T, DC>& o)
 {
@@ -157,21 +182,7 @@ KroStatus run(const T* pSrc, int srcStep, T* pDst, int dstStep, KroiSize roi, co
 
     if constexpr (kBlocks) {
         if (cpu::hasSse41()) {
-            Masks m;
-            constexpr long kBlockPx = SP == 3 ? 48 / (3 * E) : 16 / (4 * E);
-            if constexpr (SP == 3) buildMasks3<DC>(o.take, E, m);
-            else buildMasks4<DC>(o.take, E, m);
-            for (long y = 0; y < height; ++y) {
-                const T* sr = s.row(y);
-                T* dr = d.row(y);
-                const long blocks = width / kBlockPx;
-                const auto* sb = reinterpret_cast<const unsigned char*>(sr);
-                auto* db = reinterpret_cast<unsigned char*>(dr);
-                if constexpr (SP == 3) shuffle3_sse41(sb, db, blocks, m);
-                else shuffle4_sse41(sb, db, blocks, m, DC < 4);
-                const long done = blocks * kBlockPx;
-                swapPixels<T, SP, DP, DC>(sr + done * SP, dr + done * DP, width - done, o);
-            }
+            blockRows<T, SP, DP, DC>(s, d, width, height, o);
             return kroStsOk;
         }
     }

@@ -16,6 +16,7 @@
 #include "frame/bind.hpp"
 #include "frame/check.hpp"
 #include "frame/rows.hpp"
+#include "convert/mirror_stream.hpp"
 
 namespace KROI_TIER::tone {
 
@@ -112,16 +113,19 @@ inline __m128i mask16(const T* a, const T* b, const Op& op)
     }
 }
 
-template <class T, class Op>
+// With kStream the caller has checked that m starts on 16 bytes.
+template <bool kStream = false, class T, class Op>
 void maskRow(const T* a, const T* b, Kro8u* m, long n, const Op& op)
 {
+    using convert::store16;
     long i = 0;
-    for (; i + 32 <= n; i += 32) {
+    for (; i + 64 <= n; i += 64) {
         const __m128i x = mask16(a + i, b + i, op), y = mask16(a + i + 16, b + i + 16, op);
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(m + i), x);
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(m + i + 16), y);
+        const __m128i z = mask16(a + i + 32, b + i + 32, op), w = mask16(a + i + 48, b + i + 48, op);
+        store16<kStream>(m + i, x), store16<kStream>(m + i + 16, y);
+        store16<kStream>(m + i + 32, z), store16<kStream>(m + i + 48, w);
     }
-    for (; i + 16 <= n; i += 16) _mm_storeu_si128(reinterpret_cast<__m128i*>(m + i), mask16(a + i, b + i, op));
+    for (; i + 16 <= n; i += 16) store16<kStream>(m + i, mask16(a + i, b + i, op));
     for (; i < n; ++i) m[i] = op.template scalar<T>(a[i], b[i]) ? 255 : 0;
 }
 
@@ -131,14 +135,14 @@ constexpr long kChunk = 768;
 
 // One row of n pixels.  b is the second image's row, or (kConstRow) a buffer of kChunk
 // elements holding the constant repeated, used for every run.
-template <class T, int C, int W, bool kConstRow, class Op>
+template <class T, int C, int W, bool kConstRow, bool kStream, class Op>
 void compareRow(const T* a, const T* b, Kro8u* d, long n, const Op& op)
 {
     if constexpr (C == 1) {
         if constexpr (!kConstRow) {
-            maskRow(a, b, d, n, op);
+            maskRow<kStream>(a, b, d, n, op);
         } else {
-            for (long x = 0; x < n; x += kChunk) maskRow(a + x, b, d + x, std::min(kChunk, n - x), op);
+            for (long x = 0; x < n; x += kChunk) maskRow<kStream>(a + x, b, d + x, std::min(kChunk, n - x), op);
         }
     } else {
         constexpr long kPx = kChunk / C;
@@ -162,12 +166,24 @@ KroStatus compareRows(const T* a, int sa, const T* b, int sb, Kro8u* d, int sd, 
     const auto B = rows::image(b, sb);
     const auto D = rows::image(d, sd);
     const std::ptrdiff_t rowBytes = std::ptrdiff_t(roi.width) * C * sizeof(T);
-    if (rows::merged(rowBytes, A) && (kConstRow || rows::merged(rowBytes, B)) && rows::merged(roi.width, D)) {
-        compareRow<T, C, W, kConstRow>(a, b, d, long(roi.width) * roi.height, op);
-        return kroStsOk;
+    const bool merged =
+        rows::merged(rowBytes, A) && (kConstRow || rows::merged(rowBytes, B)) && rows::merged(roi.width, D);
+    const long width = merged ? long(roi.width) * roi.height : roi.width;
+    const int height = merged ? 1 : roi.height;
+    // One-channel masks of images beyond the biggest cache go out with streaming stores.
+    const std::int64_t bytes = std::int64_t(roi.width) * roi.height * ((kConstRow ? 1 : 2) * rowBytes / roi.width + 1);
+    if constexpr (C == 1) {
+        if (convert::streamRows(bytes, d, sd)) {
+            for (int y = 0; y < height; ++y)
+                compareRow<T, C, W, kConstRow, true>(A.row(y), kConstRow ? b : B.row(y), D.row(y), width, op);
+            _mm_sfence();
+            return kroStsOk;
+        }
     }
-    for (int y = 0; y < roi.height; ++y)
-        compareRow<T, C, W, kConstRow>(A.row(y), kConstRow ? b : B.row(y), D.row(y), roi.width, op);
+    {
+        for (int y = 0; y < height; ++y)
+            compareRow<T, C, W, kConstRow, false>(A.row(y), kConstRow ? b : B.row(y), D.row(y), width, op);
+    }
     return kroStsOk;
 }
 

@@ -234,4 +234,20 @@ TEST(CompareEqualEps, MatchesRuleAndChecks)
     EXPECT_EQ(m, 255);
 }
 
+// A one-channel mask of an image beyond the biggest cache streams out; the result is the
+// same.
+TEST(CompareLarge, BeyondTheCache)
+{
+    int cache = 0;
+    if (kroGetMaxCacheSizeB(&cache) != kroStsOk || cache <= 0) GTEST_SKIP() << "no cache size";
+    auto rng = kt::rngForTest();
+    const int w = 1024, h = cache / (3 * w) + 3;  // two sources and the mask exceed the cache
+    std::vector<Kro8u> a(std::size_t(w) * h), b(a.size()), m(a.size());
+    for (std::size_t i = 0; i < a.size(); ++i) a[i] = Kro8u(rng() & 7), b[i] = Kro8u(rng() & 7);
+    ASSERT_EQ(kroiCompare_8u_C1R(a.data(), w, b.data(), w, m.data(), w, {w, h}, kroCompareGreater), kroStsOk);
+    for (std::size_t i = 0; i < a.size(); ++i) ASSERT_EQ(m[i], a[i] > b[i] ? 255 : 0) << i;
+    ASSERT_EQ(kroiCompareC_8u_C1R(a.data(), w, 3, m.data(), w, {w, h}, kroCompareLessEq), kroStsOk);
+    for (std::size_t i = 0; i < a.size(); ++i) ASSERT_EQ(m[i], a[i] <= 3 ? 255 : 0) << i;
+}
+
 }  // namespace
