@@ -105,8 +105,12 @@ std::span<const DemoEntry> demoEntries();
 // section CONVERT
 // end of section CONVERT
 // section LAYOUT
+Image mirrorBoth8u(DemoContext& ctx);
+Image transpose8u(DemoContext& ctx);
+Image swapBgr8u(DemoContext& ctx);
 // end of section LAYOUT
 // section COMPARE
+Image compareGe8u(DemoContext& ctx);
 // end of section COMPARE
 // section BORDER
 // end of section BORDER
