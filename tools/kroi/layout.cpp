@@ -6,6 +6,7 @@
 // Swap and compare look at the channels, so they take gray, RGB or RGBA images.
 #include <cstdio>
 #include <cstdlib>
+#include <limits>
 #include <stdexcept>
 #include <string>
 #include <type_traits>
@@ -139,6 +140,34 @@ int runSwap(const Args& args)
     return kExitOk;
 }
 
+// The comparison functions of one element type, by layout C1, C3, C4.
+template <class T>
+struct CompareFns {
+    KroStatus (*img[3])(const T*, int, const T*, int, Kro8u*, int, KroiSize, KroCompareOp);
+    KroStatus (*c1)(const T*, int, T, Kro8u*, int, KroiSize, KroCompareOp);
+    KroStatus (*cn[2])(const T*, int, const T*, Kro8u*, int, KroiSize, KroCompareOp);
+};
+constexpr CompareFns<Kro8u> kCompare8u{{kroiCompare_8u_C1R, kroiCompare_8u_C3R, kroiCompare_8u_C4R},
+                                       kroiCompareC_8u_C1R,
+                                       {kroiCompareC_8u_C3R, kroiCompareC_8u_C4R}};
+constexpr CompareFns<Kro16u> kCompare16u{{kroiCompare_16u_C1R, kroiCompare_16u_C3R, kroiCompare_16u_C4R},
+                                         kroiCompareC_16u_C1R,
+                                         {kroiCompareC_16u_C3R, kroiCompareC_16u_C4R}};
+
+// The constant is clamped to the element's range.
+template <class T>
+KroStatus compareImage(const CompareFns<T>& f, const Image& a, const Image* b, double number, Image& mask, int op)
+{
+    const auto* s = static_cast<const T*>(a.data);
+    Kro8u* m = static_cast<Kro8u*>(mask.data);
+    const KroiSize roi{a.width, a.height};
+    const int layout = a.channels == 1 ? 0 : a.channels == 3 ? 1 : 2;
+    if (b) return f.img[layout](s, a.step, static_cast<const T*>(b->data), b->step, m, mask.step, roi, op);
+    const double top = std::numeric_limits<T>::max();
+    const T k = T(number < 0 ? 0 : number > top ? top : number), kv[4] = {k, k, k, k};
+    return layout == 0 ? f.c1(s, a.step, k, m, mask.step, roi, op) : f.cn[layout - 1](s, a.step, kv, m, mask.step, roi, op);
+}
+
 // An 8-bit gray mask: 255 where A OP B holds in every channel.  B is a second image of the
 // same size and type, or a number compared with every channel.
 int runCompare(const Args& args)
@@ -155,39 +184,14 @@ int runCompare(const Args& args)
     char* end = nullptr;
     const double number = std::strtod(args[2].c_str(), &end);
     const bool constant = end && *end == '\0' && !args[2].empty();
-    Image b = constant ? Image() : readPng(args[2]);
+    const Image b = constant ? Image() : readPng(args[2]);
     if (!constant && (b.width != a.width || b.height != a.height || b.channels != a.channels || b.depth != a.depth))
         throw std::runtime_error("the images differ: " + describe(a) + " and " + describe(b));
     Image mask(a.width, a.height, 1, 8);
-    const KroiSize roi{a.width, a.height};
-    Kro8u* m = static_cast<Kro8u*>(mask.data);
-    KroStatus st;
-    if (a.depth == 8) {
-        const auto* s = static_cast<const Kro8u*>(a.data);
-        const auto* s2 = static_cast<const Kro8u*>(b.data);
-        const Kro8u k = Kro8u(number < 0 ? 0 : number > 255 ? 255 : number), kv[4] = {k, k, k, k};
-        if (constant)
-            st = a.channels == 1 ? kroiCompareC_8u_C1R(s, a.step, k, m, mask.step, roi, op)
-               : a.channels == 3 ? kroiCompareC_8u_C3R(s, a.step, kv, m, mask.step, roi, op)
-                                 : kroiCompareC_8u_C4R(s, a.step, kv, m, mask.step, roi, op);
-        else
-            st = a.channels == 1 ? kroiCompare_8u_C1R(s, a.step, s2, b.step, m, mask.step, roi, op)
-               : a.channels == 3 ? kroiCompare_8u_C3R(s, a.step, s2, b.step, m, mask.step, roi, op)
-                                 : kroiCompare_8u_C4R(s, a.step, s2, b.step, m, mask.step, roi, op);
-    } else {
-        const auto* s = static_cast<const Kro16u*>(a.data);
-        const auto* s2 = static_cast<const Kro16u*>(b.data);
-        const Kro16u k = Kro16u(number < 0 ? 0 : number > 65535 ? 65535 : number), kv[4] = {k, k, k, k};
-        if (constant)
-            st = a.channels == 1 ? kroiCompareC_16u_C1R(s, a.step, k, m, mask.step, roi, op)
-               : a.channels == 3 ? kroiCompareC_16u_C3R(s, a.step, kv, m, mask.step, roi, op)
-                                 : kroiCompareC_16u_C4R(s, a.step, kv, m, mask.step, roi, op);
-        else
-            st = a.channels == 1 ? kroiCompare_16u_C1R(s, a.step, s2, b.step, m, mask.step, roi, op)
-               : a.channels == 3 ? kroiCompare_16u_C3R(s, a.step, s2, b.step, m, mask.step, roi, op)
-                                 : kroiCompare_16u_C4R(s, a.step, s2, b.step, m, mask.step, roi, op);
-    }
-    check(st, "kroiCompare");
+    const Image* second = constant ? nullptr : &b;
+    check(a.depth == 8 ? compareImage(kCompare8u, a, second, number, mask, op)
+                       : compareImage(kCompare16u, a, second, number, mask, op),
+          "kroiCompare");
     writePng(args[3], mask);
     return kExitOk;
 }
