@@ -9,15 +9,16 @@
 
 namespace lt {
 
-// 0: tight rows ending at a guard page; 1: padded rows starting unaligned just after one;
-// 2: padded rows stored bottom-up (negative step).
+// 0: tight rows ending at a guard page; 1: padded rows starting off 16-byte alignment just
+// after one; 2: padded rows stored bottom-up (negative step).  Padding and offset keep the
+// elements (up to 4-byte aligned types) on their natural alignment.
 constexpr int kPlacements = 3;
 
 inline kt::Shape placed(int w, int h, int c, int placement)
 {
     kt::Shape s{w, h, c};
-    if (placement == 1) s.padBytes = 13, s.guard = kt::Guard::Before, s.offset = 5;
-    if (placement == 2) s.padBytes = 6, s.bottomUp = true;
+    if (placement == 1) s.padBytes = 12, s.guard = kt::Guard::Before, s.offset = 4;
+    if (placement == 2) s.padBytes = 8, s.bottomUp = true;
     return s;
 }
 
