@@ -120,11 +120,11 @@ void maskRow(const T* a, const T* b, Kro8u* m, long n, const Op& op)
     using convert::store16;
     long i = 0;
     for (; i + 64 <= n; i += 64) {
-                // Both sources a kilobyte ahead: two read streams and a write stream are more than
+                // Both sources 1024 elements ahead: two read streams and a write stream are more than
         // the hardware prefetcher keeps up with from the last-level cache.
         for (int l = 0; l < int(sizeof(T)); ++l) {
-            _mm_prefetch(reinterpret_cast<const char*>(a + i) + 1024 + 64 * l, _MM_HINT_T0);
-            _mm_prefetch(reinterpret_cast<const char*>(b + i) + 1024 + 64 * l, _MM_HINT_T0);
+            _mm_prefetch(reinterpret_cast<const char*>(a + i + 1024) + 64 * l, _MM_HINT_T0);
+            _mm_prefetch(reinterpret_cast<const char*>(b + i + 1024) + 64 * l, _MM_HINT_T0);
         }
         const __m128i x = mask16(a + i, b + i, op), y = mask16(a + i + 16, b + i + 16, op);
         const __m128i z = mask16(a + i + 32, b + i + 32, op), w = mask16(a + i + 48, b + i + 48, op);
