@@ -1811,6 +1811,146 @@ KroStatus kroiScaleC_64f_C1IR(Kro64f mVal, Kro64f aVal, Kro64f* pSrcDst, int src
  * Channel swap, transpose, mirror, duplication
  * ======================================================================================= */
 /* section LAYOUT */
+/* Flip codes of kroiMirror. */
+enum {
+    kroFlipRows    = 0, /* about the horizontal axis: row i exchanges with row height-1-i */
+    kroFlipColumns = 1, /* about the vertical axis: element j exchanges with width-1-j */
+    kroFlipBoth    = 2  /* about both axes */
+};
+
+/* kroiSwapChannels: destination channel c of each pixel receives source channel dstOrder[c]
+ * (three indices for C3, AC4 and C4C3, four for C4 and C3C4).
+ *   Checks: null pSrc, pDst or dstOrder -8; width or height < 1 -6; a step of 0 -16 (only
+ *   zero: a negative step walks that image upward and is accepted); then the order -60:
+ *   C3: each index 0..2; C4, C4C3: 0..3; AC4: 0..2 (the fourth channel is neither read
+ *   nor written).  C3C4: a negative index -60; 0..2 take a source channel, 3 writes `val`
+ *   into that channel, 4 and up leave that destination channel as it was.
+ *   pSrc == pDst reorders in place (each whole pixel is read before it is written); the
+ *   8u C3IR and C4IR forms do the same with one image. */
+KroStatus kroiSwapChannels_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const int dstOrder[3]);
+KroStatus kroiSwapChannels_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const int dstOrder[4]);
+KroStatus kroiSwapChannels_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const int dstOrder[3]);
+KroStatus kroiSwapChannels_8u_C4C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const int dstOrder[3]);
+KroStatus kroiSwapChannels_8u_C3C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const int dstOrder[4], Kro8u val);
+KroStatus kroiSwapChannels_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const int dstOrder[3]);
+KroStatus kroiSwapChannels_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const int dstOrder[4]);
+KroStatus kroiSwapChannels_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const int dstOrder[3]);
+KroStatus kroiSwapChannels_16u_C4C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const int dstOrder[3]);
+KroStatus kroiSwapChannels_16u_C3C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const int dstOrder[4], Kro16u val);
+KroStatus kroiSwapChannels_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const int dstOrder[3]);
+KroStatus kroiSwapChannels_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const int dstOrder[4]);
+KroStatus kroiSwapChannels_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const int dstOrder[3]);
+KroStatus kroiSwapChannels_16s_C4C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const int dstOrder[3]);
+KroStatus kroiSwapChannels_16s_C3C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const int dstOrder[4], Kro16s val);
+KroStatus kroiSwapChannels_32s_C3R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, const int dstOrder[3]);
+KroStatus kroiSwapChannels_32s_C4R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, const int dstOrder[4]);
+KroStatus kroiSwapChannels_32s_AC4R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, const int dstOrder[3]);
+KroStatus kroiSwapChannels_32s_C4C3R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, const int dstOrder[3]);
+KroStatus kroiSwapChannels_32s_C3C4R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, const int dstOrder[4], Kro32s val);
+KroStatus kroiSwapChannels_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const int dstOrder[3]);
+KroStatus kroiSwapChannels_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const int dstOrder[4]);
+KroStatus kroiSwapChannels_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const int dstOrder[3]);
+KroStatus kroiSwapChannels_32f_C4C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const int dstOrder[3]);
+KroStatus kroiSwapChannels_32f_C3C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const int dstOrder[4], Kro32f val);
+KroStatus kroiSwapChannels_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const int dstOrder[3]);
+KroStatus kroiSwapChannels_8u_C4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const int dstOrder[4]);
+
+/* kroiTranspose: destination element at (column y, row x) = source element at (column x,
+ * row y); roiSize is the source's size, the destination is height x width.
+ *   pSrc == pDst with equal steps is handed to the in-place form before any check.
+ *   Checks: null -8; width < 1 or height < 1 -6.  Steps are used as given.
+ *   In place (IR): null -8; width or height < 1 -6; a region that is not square -6 (its
+ *   transpose would not occupy the same memory).
+ *   The image is processed in cache-sized square tiles. */
+KroStatus kroiTranspose_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiTranspose_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiTranspose_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiTranspose_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiTranspose_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiTranspose_8u_C4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiTranspose_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiTranspose_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiTranspose_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiTranspose_16u_C1IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiTranspose_16u_C3IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiTranspose_16u_C4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiTranspose_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiTranspose_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiTranspose_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiTranspose_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiTranspose_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiTranspose_16s_C4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiTranspose_32s_C1R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiTranspose_32s_C3R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiTranspose_32s_C4R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiTranspose_32s_C1IR(Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiTranspose_32s_C3IR(Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiTranspose_32s_C4IR(Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiTranspose_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiTranspose_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiTranspose_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiTranspose_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiTranspose_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiTranspose_32f_C4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiTranspose_32fc_C1R(const Kro32fc* pSrc, int srcStep, Kro32fc* pDst, int dstStep, KroiSize roiSize);
+
+/* kroiMirror: flip 0 (kroFlipRows) exchanges row i with row height-1-i, flip 1
+ * (kroFlipColumns) element j of each row with element width-1-j, flip 2 both.  AC4 leaves
+ * the fourth channel of every destination pixel as it was (in place: alpha stays where it
+ * is).
+ *   In place (IR): null -8; width or height < 1 -6; flip other than 0, 1, 2 -22.
+ *   Out of place: pSrc == pDst with equal steps and a flip other than 0 and 1 is handed to
+ *   the in-place form, checks included.  Otherwise: null -8; size -6; a flip outside 0..2
+ *   -22 (also when the images differ).  With flip 0 or 1 on the same image and step the
+ *   mirror is made in place after this form's checks.  Steps are used as given.
+ *   Out of place, flip 1 of an image larger than the biggest processor cache
+ *   (kroGetMaxCacheSizeB) is written with streaming stores when the destination rows start
+ *   on 16 bytes; the result is the same. */
+KroStatus kroiMirror_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_8u_C4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_16u_C1IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_16u_C3IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_16u_C4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_16u_AC4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_16s_C4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_32s_C1R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_32s_C3R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_32s_C4R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_32s_AC4R(const Kro32s* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_32s_C1IR(Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_32s_C3IR(Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_32s_C4IR(Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_32s_AC4IR(Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_32f_C4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, int flip);
+KroStatus kroiMirror_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, int flip);
+
+/* kroiDup: each destination pixel receives the source value in all three or four channels.
+ *   Checks: null -8; width or height < 1 -6.  Steps are used as given. */
+KroStatus kroiDup_8u_C1C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiDup_8u_C1C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
 
 /* end of section LAYOUT */
 
@@ -1818,6 +1958,56 @@ KroStatus kroiScaleC_64f_C1IR(Kro64f mVal, Kro64f aVal, Kro64f* pSrcDst, int src
  * Comparison
  * ======================================================================================= */
 /* section COMPARE */
+/* kroiCompare, kroiCompareC: a one-channel 8u mask, 255 where src1 OP src2 (or src OP the
+ * constant) holds in every compared channel (all of C3 and C4, the first three of AC4), 0
+ * elsewhere.  kroiCompareEqualEps, kroiCompareEqualEpsC (32f): 255 where |s1 - s2| <= eps
+ * in every compared channel, the difference formed in single precision.
+ *   Checks, in order: null source, constant array or destination -8; any step < 1 -16;
+ *   width or height < 1 -6.  Then an operation code outside 0..4 (negative ones included)
+ *   returns 0 and writes nothing; a tolerance eps below 0 gives -36.
+ *   32f: every relation with a NaN is false (mask 0), and -0 equals +0.
+ *   One-channel masks of images larger than the biggest processor cache are written with
+ *   streaming stores when the destination rows start on 16 bytes. */
+KroStatus kroiCompare_8u_C1R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompare_8u_C3R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompare_8u_C4R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompare_8u_AC4R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompare_16u_C1R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompare_16u_C3R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompare_16u_C4R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompare_16u_AC4R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompare_16s_C1R(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompare_16s_C3R(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompare_16s_C4R(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompare_16s_AC4R(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompare_32f_C1R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompare_32f_C3R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompare_32f_C4R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompare_32f_AC4R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompareC_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u value, Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompareC_8u_C3R(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompareC_8u_C4R(const Kro8u* pSrc, int srcStep, const Kro8u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompareC_8u_AC4R(const Kro8u* pSrc, int srcStep, const Kro8u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompareC_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u value, Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompareC_16u_C3R(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompareC_16u_C4R(const Kro16u* pSrc, int srcStep, const Kro16u value[4], Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompareC_16u_AC4R(const Kro16u* pSrc, int srcStep, const Kro16u value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompareC_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s value, Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompareC_16s_C3R(const Kro16s* pSrc, int srcStep, const Kro16s value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompareC_16s_C4R(const Kro16s* pSrc, int srcStep, const Kro16s value[4], Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompareC_16s_AC4R(const Kro16s* pSrc, int srcStep, const Kro16s value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompareC_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f value, Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompareC_32f_C3R(const Kro32f* pSrc, int srcStep, const Kro32f value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompareC_32f_C4R(const Kro32f* pSrc, int srcStep, const Kro32f value[4], Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompareC_32f_AC4R(const Kro32f* pSrc, int srcStep, const Kro32f value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, KroCompareOp op);
+KroStatus kroiCompareEqualEps_32f_C1R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro32f eps);
+KroStatus kroiCompareEqualEps_32f_C3R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro32f eps);
+KroStatus kroiCompareEqualEps_32f_C4R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro32f eps);
+KroStatus kroiCompareEqualEps_32f_AC4R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro32f eps);
+KroStatus kroiCompareEqualEpsC_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f value, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro32f eps);
+KroStatus kroiCompareEqualEpsC_32f_C3R(const Kro32f* pSrc, int srcStep, const Kro32f value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, Kro32f eps);
+KroStatus kroiCompareEqualEpsC_32f_C4R(const Kro32f* pSrc, int srcStep, const Kro32f value[4], Kro8u* pDst, int dstStep, KroiSize roiSize, Kro32f eps);
+KroStatus kroiCompareEqualEpsC_32f_AC4R(const Kro32f* pSrc, int srcStep, const Kro32f value[3], Kro8u* pDst, int dstStep, KroiSize roiSize, Kro32f eps);
 
 /* end of section COMPARE */
 

@@ -41,8 +41,12 @@ int runConvert(const Args& args); // convert.cpp
 int runScale(const Args& args);   // convert.cpp
 // end of section CONVERT
 // section LAYOUT
+int runMirror(const Args& args);    // layout.cpp
+int runTranspose(const Args& args); // layout.cpp
+int runSwap(const Args& args);      // layout.cpp
 // end of section LAYOUT
 // section COMPARE
+int runCompare(const Args& args); // layout.cpp
 // end of section COMPARE
 // section BORDER
 // end of section BORDER

@@ -123,8 +123,12 @@ Image stretch32f8u(DemoContext& ctx);
 Image scaleC8u(DemoContext& ctx);
 // end of section CONVERT
 // section LAYOUT
+Image mirrorBoth8u(DemoContext& ctx);
+Image transpose8u(DemoContext& ctx);
+Image swapBgr8u(DemoContext& ctx);
 // end of section LAYOUT
 // section COMPARE
+Image compareGe8u(DemoContext& ctx);
 // end of section COMPARE
 // section BORDER
 // end of section BORDER

@@ -138,8 +138,15 @@ constexpr DemoEntry kEntries[] = {
     {"scalec-8u", "kroiScaleC_8u_C1R(src, srcStep, dst, dstStep, {3 * 512, 384}, 1.4, -40.0)", scaleC8u},
     // end of section CONVERT
     // section LAYOUT
+    {"mirror-both-8u-c3", "kroiMirror_8u_C3R(src, srcStep, dst, dstStep, {512, 384}, kroFlipBoth)", mirrorBoth8u},
+    {"transpose-8u-c3", "kroiTranspose_8u_C3R(src, srcStep, dst, dstStep, {512, 384})", transpose8u},
+    {"swap-bgr-8u-c3", "kroiSwapChannels_8u_C3R(src, srcStep, dst, dstStep, {512, 384}, (int[]){2, 1, 0})",
+     swapBgr8u},
     // end of section LAYOUT
     // section COMPARE
+    {"compare-ge-8u-c3",
+     "kroiCompare_8u_C3R(first, firstStep, second, secondStep, mask, maskStep, {512, 384}, kroCompareGreaterEq)",
+     compareGe8u},
     // end of section COMPARE
     // section BORDER
     // end of section BORDER

@@ -79,8 +79,14 @@ constexpr Command kCommands[] = {
      runScale},
     // end of section CONVERT
     // section LAYOUT
+    {"mirror", "kroi mirror rows|columns|both IN.png OUT.png\n    flip about the horizontal axis, the vertical axis or both", runMirror},
+    {"transpose", "kroi transpose IN.png OUT.png\n    exchange rows and columns", runTranspose},
+    {"swap", "kroi swap ORDER IN.png OUT.png\n    reorder channels: output channel c takes input channel ORDER[c] (2,1,0 or 3,2,1,0)",
+     runSwap},
     // end of section LAYOUT
     // section COMPARE
+    {"compare", "kroi compare lt|le|eq|ge|gt A.png B.png|NUMBER MASK.png\n    8-bit mask: 255 where A OP B in every channel",
+     runCompare},
     // end of section COMPARE
     // section BORDER
     // end of section BORDER
