@@ -372,6 +372,281 @@ void kroiFree(void* ptr);
  * Border copies, border-filter frame, box filter and window sums
  * ======================================================================================= */
 /* section BORDER */
+/* Border codes taken by the border-aware filters (box filter, window sums, min/max filters):
+ * a code above 255 gives kroStsBadBorderErr (-225); 0xF0 (kroBorderInMem) exactly is accepted
+ * and nothing is synthesised; otherwise the low nibble must be kroBorderReplicate,
+ * kroBorderMirror or kroBorderConstant, with any of the four in-memory flags.  For a mask
+ * mw x mh with anchor ax = (mw-1)>>1, ay = (mh-1)>>1 the flags read ay rows above the ROI,
+ * mh-1-ay rows below, ax columns left and mw-1-ax columns right from memory.
+ *
+ * Index rules for a coordinate x outside 0..n-1:
+ *   replicate  x < 0 reads 0, x >= n reads n-1;
+ *   mirror     period p = 2n-2: r = x mod p (non-negative), r >= n reads p-r; so -1 reads 1,
+ *              n reads n-2, and borders wider than the image bounce back and forth (a row
+ *              of 3 with a left border of 5 reads 1,0,1,2,1 from the outside in); n = 1
+ *              reads 0 everywhere;
+ *   wrap       x mod n (non-negative): the row repeats (border copies only);
+ *   constant   a caller's value per channel. */
+
+/* Border copies: copy the source ROI (srcRoiSize) into the destination (dstRoiSize) at
+ * (leftBorderWidth, topBorderHeight) and fill the frame around it by the mode's rule.  The
+ * bottom border is dstHeight - srcHeight - top rows, the right one dstWidth - srcWidth - left
+ * columns; either may be zero.  In-place forms (IR): pSrcDst is the source's first pixel,
+ * already inside the destination, whose first pixel lies top rows and left pixels before it.
+ *
+ * The copies move bits: 16u and 16s behave alike, 32s and 32f alike, and a 32f constant is
+ * written as its bit pattern (NaN payloads and -0 survive).  A one-channel constant is passed
+ * by value, a multi-channel one as an array (three values for C3 and AC4, four for C4).
+ * AC4: the fourth channel of the destination is never written, in the border nor where the
+ * source is copied.
+ *
+ * Order of writing (visible only when source and destination overlap): replicate writes each
+ * source row with its left and right parts, then the bottom rows as copies of the last row
+ * written, then the top rows as copies of row top; the constant copy writes top rows, source
+ * rows, bottom rows; mirror and wrap write the destination rows top to bottom.  In place, the
+ * left and right parts of every source row come first, then top and bottom rows as copies of
+ * the finished rows their rule names.
+ *
+ * Checks, in order:
+ *   replicate and mirror R: pSrc == pDst hands the call to the IR form with dstStep, before
+ *     any check;
+ *   a null pSrc, pDst or pSrcDst: -8;  srcStep or dstStep < 1: -16 (steps are not compared
+ *     with the row's bytes);
+ *   source or destination width or height < 1, top < 0, left < 0, dstWidth < srcWidth + left
+ *     or dstHeight < srcHeight + top: -6;
+ *   multi-channel constant copies: a null value pointer: -8;
+ *   wrap R: pSrc == pDst, found only now, hands the call to the IR form.
+ *   The constant copy never hands over: equal pointers are an ordinary overlapping copy.
+ * The _L forms take 64-bit steps, sizes and borders and make the same checks with the same
+ * codes; they share the kernels of the 32-bit forms. */
+KroStatus kroiCopyConstBorder_8u_C1R(const Kro8u* pSrc, int srcStep, KroiSize srcRoiSize, Kro8u* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Kro8u value);
+KroStatus kroiCopyConstBorder_8u_C1R_L(const Kro8u* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro8u* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, Kro8u value);
+KroStatus kroiCopyConstBorder_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Kro8u value);
+KroStatus kroiCopyConstBorder_8u_C1IR_L(Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, Kro8u value);
+KroStatus kroiCopyConstBorder_8u_C3R(const Kro8u* pSrc, int srcStep, KroiSize srcRoiSize, Kro8u* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro8u value[3]);
+KroStatus kroiCopyConstBorder_8u_C3R_L(const Kro8u* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro8u* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro8u value[3]);
+KroStatus kroiCopyConstBorder_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro8u value[3]);
+KroStatus kroiCopyConstBorder_8u_C3IR_L(Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro8u value[3]);
+KroStatus kroiCopyConstBorder_8u_C4R(const Kro8u* pSrc, int srcStep, KroiSize srcRoiSize, Kro8u* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro8u value[4]);
+KroStatus kroiCopyConstBorder_8u_C4R_L(const Kro8u* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro8u* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro8u value[4]);
+KroStatus kroiCopyConstBorder_8u_C4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro8u value[4]);
+KroStatus kroiCopyConstBorder_8u_C4IR_L(Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro8u value[4]);
+KroStatus kroiCopyConstBorder_8u_AC4R(const Kro8u* pSrc, int srcStep, KroiSize srcRoiSize, Kro8u* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro8u value[3]);
+KroStatus kroiCopyConstBorder_8u_AC4R_L(const Kro8u* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro8u* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro8u value[3]);
+KroStatus kroiCopyConstBorder_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro8u value[3]);
+KroStatus kroiCopyConstBorder_8u_AC4IR_L(Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro8u value[3]);
+KroStatus kroiCopyConstBorder_16u_C1R(const Kro16u* pSrc, int srcStep, KroiSize srcRoiSize, Kro16u* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Kro16u value);
+KroStatus kroiCopyConstBorder_16u_C1R_L(const Kro16u* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro16u* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, Kro16u value);
+KroStatus kroiCopyConstBorder_16u_C1IR(Kro16u* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Kro16u value);
+KroStatus kroiCopyConstBorder_16u_C1IR_L(Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, Kro16u value);
+KroStatus kroiCopyConstBorder_16u_C3R(const Kro16u* pSrc, int srcStep, KroiSize srcRoiSize, Kro16u* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro16u value[3]);
+KroStatus kroiCopyConstBorder_16u_C3R_L(const Kro16u* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro16u* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro16u value[3]);
+KroStatus kroiCopyConstBorder_16u_C3IR(Kro16u* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro16u value[3]);
+KroStatus kroiCopyConstBorder_16u_C3IR_L(Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro16u value[3]);
+KroStatus kroiCopyConstBorder_16u_C4R(const Kro16u* pSrc, int srcStep, KroiSize srcRoiSize, Kro16u* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro16u value[4]);
+KroStatus kroiCopyConstBorder_16u_C4R_L(const Kro16u* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro16u* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro16u value[4]);
+KroStatus kroiCopyConstBorder_16u_C4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro16u value[4]);
+KroStatus kroiCopyConstBorder_16u_C4IR_L(Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro16u value[4]);
+KroStatus kroiCopyConstBorder_16u_AC4R(const Kro16u* pSrc, int srcStep, KroiSize srcRoiSize, Kro16u* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro16u value[3]);
+KroStatus kroiCopyConstBorder_16u_AC4R_L(const Kro16u* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro16u* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro16u value[3]);
+KroStatus kroiCopyConstBorder_16u_AC4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro16u value[3]);
+KroStatus kroiCopyConstBorder_16u_AC4IR_L(Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro16u value[3]);
+KroStatus kroiCopyConstBorder_16s_C1R(const Kro16s* pSrc, int srcStep, KroiSize srcRoiSize, Kro16s* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Kro16s value);
+KroStatus kroiCopyConstBorder_16s_C1R_L(const Kro16s* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro16s* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, Kro16s value);
+KroStatus kroiCopyConstBorder_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Kro16s value);
+KroStatus kroiCopyConstBorder_16s_C1IR_L(Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, Kro16s value);
+KroStatus kroiCopyConstBorder_16s_C3R(const Kro16s* pSrc, int srcStep, KroiSize srcRoiSize, Kro16s* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro16s value[3]);
+KroStatus kroiCopyConstBorder_16s_C3R_L(const Kro16s* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro16s* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro16s value[3]);
+KroStatus kroiCopyConstBorder_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro16s value[3]);
+KroStatus kroiCopyConstBorder_16s_C3IR_L(Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro16s value[3]);
+KroStatus kroiCopyConstBorder_16s_C4R(const Kro16s* pSrc, int srcStep, KroiSize srcRoiSize, Kro16s* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro16s value[4]);
+KroStatus kroiCopyConstBorder_16s_C4R_L(const Kro16s* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro16s* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro16s value[4]);
+KroStatus kroiCopyConstBorder_16s_C4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro16s value[4]);
+KroStatus kroiCopyConstBorder_16s_C4IR_L(Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro16s value[4]);
+KroStatus kroiCopyConstBorder_16s_AC4R(const Kro16s* pSrc, int srcStep, KroiSize srcRoiSize, Kro16s* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro16s value[3]);
+KroStatus kroiCopyConstBorder_16s_AC4R_L(const Kro16s* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro16s* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro16s value[3]);
+KroStatus kroiCopyConstBorder_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro16s value[3]);
+KroStatus kroiCopyConstBorder_16s_AC4IR_L(Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro16s value[3]);
+KroStatus kroiCopyConstBorder_32s_C1R(const Kro32s* pSrc, int srcStep, KroiSize srcRoiSize, Kro32s* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Kro32s value);
+KroStatus kroiCopyConstBorder_32s_C1R_L(const Kro32s* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32s* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, Kro32s value);
+KroStatus kroiCopyConstBorder_32s_C1IR(Kro32s* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Kro32s value);
+KroStatus kroiCopyConstBorder_32s_C1IR_L(Kro32s* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, Kro32s value);
+KroStatus kroiCopyConstBorder_32s_C3R(const Kro32s* pSrc, int srcStep, KroiSize srcRoiSize, Kro32s* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro32s value[3]);
+KroStatus kroiCopyConstBorder_32s_C3R_L(const Kro32s* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32s* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro32s value[3]);
+KroStatus kroiCopyConstBorder_32s_C3IR(Kro32s* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro32s value[3]);
+KroStatus kroiCopyConstBorder_32s_C3IR_L(Kro32s* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro32s value[3]);
+KroStatus kroiCopyConstBorder_32s_C4R(const Kro32s* pSrc, int srcStep, KroiSize srcRoiSize, Kro32s* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro32s value[4]);
+KroStatus kroiCopyConstBorder_32s_C4R_L(const Kro32s* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32s* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro32s value[4]);
+KroStatus kroiCopyConstBorder_32s_C4IR(Kro32s* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro32s value[4]);
+KroStatus kroiCopyConstBorder_32s_C4IR_L(Kro32s* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro32s value[4]);
+KroStatus kroiCopyConstBorder_32s_AC4R(const Kro32s* pSrc, int srcStep, KroiSize srcRoiSize, Kro32s* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro32s value[3]);
+KroStatus kroiCopyConstBorder_32s_AC4R_L(const Kro32s* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32s* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro32s value[3]);
+KroStatus kroiCopyConstBorder_32s_AC4IR(Kro32s* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro32s value[3]);
+KroStatus kroiCopyConstBorder_32s_AC4IR_L(Kro32s* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro32s value[3]);
+KroStatus kroiCopyConstBorder_32f_C1R(const Kro32f* pSrc, int srcStep, KroiSize srcRoiSize, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Kro32f value);
+KroStatus kroiCopyConstBorder_32f_C1R_L(const Kro32f* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32f* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, Kro32f value);
+KroStatus kroiCopyConstBorder_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Kro32f value);
+KroStatus kroiCopyConstBorder_32f_C1IR_L(Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, Kro32f value);
+KroStatus kroiCopyConstBorder_32f_C3R(const Kro32f* pSrc, int srcStep, KroiSize srcRoiSize, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro32f value[3]);
+KroStatus kroiCopyConstBorder_32f_C3R_L(const Kro32f* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32f* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro32f value[3]);
+KroStatus kroiCopyConstBorder_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro32f value[3]);
+KroStatus kroiCopyConstBorder_32f_C3IR_L(Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro32f value[3]);
+KroStatus kroiCopyConstBorder_32f_C4R(const Kro32f* pSrc, int srcStep, KroiSize srcRoiSize, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro32f value[4]);
+KroStatus kroiCopyConstBorder_32f_C4R_L(const Kro32f* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32f* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro32f value[4]);
+KroStatus kroiCopyConstBorder_32f_C4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro32f value[4]);
+KroStatus kroiCopyConstBorder_32f_C4IR_L(Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro32f value[4]);
+KroStatus kroiCopyConstBorder_32f_AC4R(const Kro32f* pSrc, int srcStep, KroiSize srcRoiSize, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro32f value[3]);
+KroStatus kroiCopyConstBorder_32f_AC4R_L(const Kro32f* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32f* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro32f value[3]);
+KroStatus kroiCopyConstBorder_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kro32f value[3]);
+KroStatus kroiCopyConstBorder_32f_AC4IR_L(Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth, const Kro32f value[3]);
+KroStatus kroiCopyReplicateBorder_8u_C1R(const Kro8u* pSrc, int srcStep, KroiSize srcRoiSize, Kro8u* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_8u_C1R_L(const Kro8u* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro8u* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_8u_C1IR_L(Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_8u_C3R(const Kro8u* pSrc, int srcStep, KroiSize srcRoiSize, Kro8u* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_8u_C3R_L(const Kro8u* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro8u* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_8u_C3IR_L(Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_8u_C4R(const Kro8u* pSrc, int srcStep, KroiSize srcRoiSize, Kro8u* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_8u_C4R_L(const Kro8u* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro8u* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_8u_C4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_8u_C4IR_L(Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_8u_AC4R(const Kro8u* pSrc, int srcStep, KroiSize srcRoiSize, Kro8u* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_8u_AC4R_L(const Kro8u* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro8u* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_8u_AC4IR_L(Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16u_C1R(const Kro16u* pSrc, int srcStep, KroiSize srcRoiSize, Kro16u* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16u_C1R_L(const Kro16u* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro16u* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16u_C1IR(Kro16u* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16u_C1IR_L(Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16u_C3R(const Kro16u* pSrc, int srcStep, KroiSize srcRoiSize, Kro16u* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16u_C3R_L(const Kro16u* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro16u* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16u_C3IR(Kro16u* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16u_C3IR_L(Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16u_C4R(const Kro16u* pSrc, int srcStep, KroiSize srcRoiSize, Kro16u* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16u_C4R_L(const Kro16u* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro16u* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16u_C4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16u_C4IR_L(Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16u_AC4R(const Kro16u* pSrc, int srcStep, KroiSize srcRoiSize, Kro16u* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16u_AC4R_L(const Kro16u* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro16u* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16u_AC4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16u_AC4IR_L(Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16s_C1R(const Kro16s* pSrc, int srcStep, KroiSize srcRoiSize, Kro16s* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16s_C1R_L(const Kro16s* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro16s* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16s_C1IR_L(Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16s_C3R(const Kro16s* pSrc, int srcStep, KroiSize srcRoiSize, Kro16s* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16s_C3R_L(const Kro16s* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro16s* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16s_C3IR_L(Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16s_C4R(const Kro16s* pSrc, int srcStep, KroiSize srcRoiSize, Kro16s* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16s_C4R_L(const Kro16s* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro16s* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16s_C4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16s_C4IR_L(Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16s_AC4R(const Kro16s* pSrc, int srcStep, KroiSize srcRoiSize, Kro16s* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16s_AC4R_L(const Kro16s* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro16s* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_16s_AC4IR_L(Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32s_C1R(const Kro32s* pSrc, int srcStep, KroiSize srcRoiSize, Kro32s* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32s_C1R_L(const Kro32s* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32s* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32s_C1IR(Kro32s* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32s_C1IR_L(Kro32s* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32s_C3R(const Kro32s* pSrc, int srcStep, KroiSize srcRoiSize, Kro32s* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32s_C3R_L(const Kro32s* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32s* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32s_C3IR(Kro32s* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32s_C3IR_L(Kro32s* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32s_C4R(const Kro32s* pSrc, int srcStep, KroiSize srcRoiSize, Kro32s* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32s_C4R_L(const Kro32s* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32s* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32s_C4IR(Kro32s* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32s_C4IR_L(Kro32s* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32s_AC4R(const Kro32s* pSrc, int srcStep, KroiSize srcRoiSize, Kro32s* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32s_AC4R_L(const Kro32s* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32s* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32s_AC4IR(Kro32s* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32s_AC4IR_L(Kro32s* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32f_C1R(const Kro32f* pSrc, int srcStep, KroiSize srcRoiSize, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32f_C1R_L(const Kro32f* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32f* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32f_C1IR_L(Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32f_C3R(const Kro32f* pSrc, int srcStep, KroiSize srcRoiSize, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32f_C3R_L(const Kro32f* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32f* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32f_C3IR_L(Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32f_C4R(const Kro32f* pSrc, int srcStep, KroiSize srcRoiSize, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32f_C4R_L(const Kro32f* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32f* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32f_C4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32f_C4IR_L(Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32f_AC4R(const Kro32f* pSrc, int srcStep, KroiSize srcRoiSize, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32f_AC4R_L(const Kro32f* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32f* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyReplicateBorder_32f_AC4IR_L(Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_8u_C1R(const Kro8u* pSrc, int srcStep, KroiSize srcRoiSize, Kro8u* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_8u_C1R_L(const Kro8u* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro8u* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_8u_C1IR_L(Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_8u_C3R(const Kro8u* pSrc, int srcStep, KroiSize srcRoiSize, Kro8u* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_8u_C3R_L(const Kro8u* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro8u* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_8u_C3IR_L(Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_8u_C4R(const Kro8u* pSrc, int srcStep, KroiSize srcRoiSize, Kro8u* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_8u_C4R_L(const Kro8u* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro8u* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_8u_C4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_8u_C4IR_L(Kro8u* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16u_C1R(const Kro16u* pSrc, int srcStep, KroiSize srcRoiSize, Kro16u* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16u_C1R_L(const Kro16u* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro16u* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16u_C1IR(Kro16u* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16u_C1IR_L(Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16u_C3R(const Kro16u* pSrc, int srcStep, KroiSize srcRoiSize, Kro16u* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16u_C3R_L(const Kro16u* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro16u* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16u_C3IR(Kro16u* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16u_C3IR_L(Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16u_C4R(const Kro16u* pSrc, int srcStep, KroiSize srcRoiSize, Kro16u* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16u_C4R_L(const Kro16u* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro16u* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16u_C4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16u_C4IR_L(Kro16u* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16s_C1R(const Kro16s* pSrc, int srcStep, KroiSize srcRoiSize, Kro16s* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16s_C1R_L(const Kro16s* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro16s* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16s_C1IR_L(Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16s_C3R(const Kro16s* pSrc, int srcStep, KroiSize srcRoiSize, Kro16s* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16s_C3R_L(const Kro16s* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro16s* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16s_C3IR_L(Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16s_C4R(const Kro16s* pSrc, int srcStep, KroiSize srcRoiSize, Kro16s* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16s_C4R_L(const Kro16s* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro16s* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16s_C4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_16s_C4IR_L(Kro16s* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32s_C1R(const Kro32s* pSrc, int srcStep, KroiSize srcRoiSize, Kro32s* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32s_C1R_L(const Kro32s* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32s* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32s_C1IR(Kro32s* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32s_C1IR_L(Kro32s* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32s_C3R(const Kro32s* pSrc, int srcStep, KroiSize srcRoiSize, Kro32s* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32s_C3R_L(const Kro32s* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32s* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32s_C3IR(Kro32s* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32s_C3IR_L(Kro32s* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32s_C4R(const Kro32s* pSrc, int srcStep, KroiSize srcRoiSize, Kro32s* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32s_C4R_L(const Kro32s* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32s* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32s_C4IR(Kro32s* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32s_C4IR_L(Kro32s* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32f_C1R(const Kro32f* pSrc, int srcStep, KroiSize srcRoiSize, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32f_C1R_L(const Kro32f* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32f* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32f_C1IR_L(Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32f_C3R(const Kro32f* pSrc, int srcStep, KroiSize srcRoiSize, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32f_C3R_L(const Kro32f* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32f* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32f_C3IR_L(Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32f_C4R(const Kro32f* pSrc, int srcStep, KroiSize srcRoiSize, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32f_C4R_L(const Kro32f* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32f* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32f_C4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyMirrorBorder_32f_C4IR_L(Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyWrapBorder_32s_C1R(const Kro32s* pSrc, int srcStep, KroiSize srcRoiSize, Kro32s* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyWrapBorder_32s_C1R_L(const Kro32s* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32s* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyWrapBorder_32s_C1IR(Kro32s* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyWrapBorder_32s_C1IR_L(Kro32s* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyWrapBorder_32f_C1R(const Kro32f* pSrc, int srcStep, KroiSize srcRoiSize, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyWrapBorder_32f_C1R_L(const Kro32f* pSrc, int64_t srcStep, KroiSizeL srcRoiSize, Kro32f* pDst, int64_t dstStep, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
+KroStatus kroiCopyWrapBorder_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KroStatus kroiCopyWrapBorder_32f_C1IR_L(Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
 
 /* end of section BORDER */
 
