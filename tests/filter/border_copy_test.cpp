@@ -380,9 +380,10 @@ void runCheckOrder()
             if (r.s == nullptr) continue;
             T* p = r.d ? r.d + (r.left * m.C) : nullptr;
             if (p) p = reinterpret_cast<T*>(reinterpret_cast<char*>(p) + std::ptrdiff_t(r.top) * ds);
-            if (r.d == d && r.s == s && r.ss == ss)
+            if (r.d == d && r.s == s && r.ss == ss) {
                 for (const auto* f : {&m.f.ir, &m.f.irl})
                     EXPECT_EQ((*f)(p, r.ds, r.sr, r.dr, r.top, r.left, v), r.want) << m.name << " IR row " << i;
+            }
             EXPECT_TRUE(dst.unchangedSince(before)) << m.name << " row " << i;
         }
         // Equal pointers with a bad srcStep: the in-place hand-over ignores it.
