@@ -129,10 +129,8 @@ struct Vec<int32_t> {
     static R scan(R prev, R d)
     {
         if constexpr (C == 4) return _mm_add_epi32(prev, d);
-        if constexpr (C == 3) {
-            const R t = _mm_add_epi32(d, _mm_srli_si128(prev, 4));
-            return _mm_add_epi32(t, _mm_slli_si128(t, 12));
-        }
+        if constexpr (C == 3) // lane 3 is lane 0's sum plus its own difference
+            return _mm_add_epi32(_mm_add_epi32(d, _mm_slli_si128(d, 12)), _mm_shuffle_epi32(prev, 0x79));
         d = _mm_add_epi32(d, _mm_slli_si128(d, 4));
         d = _mm_add_epi32(d, _mm_slli_si128(d, 8));
         return _mm_add_epi32(d, _mm_shuffle_epi32(prev, 0xFF));
@@ -265,7 +263,8 @@ struct ColumnSums {
 
 // ---- window sums along a row -----------------------------------------------------------
 
-// Calls emit.vec(i, sums of elements i..i+3) and emit.one(i, sum) for the window sums of
+// Calls emit.vec4(i, sums of elements i..i+15) and emit.vec(i, sums of elements i..i+3) for
+// i = 0, 4, 8, ... in order, then emit.one(i, sum) for the remaining elements: the window sums of
 // elements 0 .. n-1 (n = W * C) of the row of column sums `c`, by the sequence above.
 // `c` may also be a row of source elements (Src), each converted to Acc as it is read.
 template <class Acc, int C, class Src, class Emit>
@@ -288,11 +287,16 @@ void windowRow(const Src* c, int64_t w, int64_t mw, Emit& emit)
     if constexpr (kInt) {
         if (mw <= 3) { // few enough terms to add directly
             int64_t i = 0;
-            for (; i + 4 <= n; i += 4) {
-                typename V::R s = ld(c + i);
-                for (int k = 1; k < mw; ++k) s = V::add(s, ld(c + i + k * C));
-                emit.vec(i, s);
+            auto sum4 = [&](int64_t j) {
+                typename V::R s = ld(c + j);
+                for (int k = 1; k < mw; ++k) s = V::add(s, ld(c + j + k * C));
+                return s;
+            };
+            for (; i + 16 <= n; i += 16) {
+                const typename V::R s[4] = {sum4(i), sum4(i + 4), sum4(i + 8), sum4(i + 12)};
+                emit.vec4(i, s);
             }
+            for (; i + 4 <= n; i += 4) emit.vec(i, sum4(i));
             for (; i < n; ++i) emit.one(i, start(i));
             return;
         }
@@ -327,10 +331,13 @@ void windowRow(const Src* c, int64_t w, int64_t mw, Emit& emit)
     for (; i < 4; ++i) last[i] = i < C ? start(i) : next(i, last[i - C]);
     typename V::R prev = V::load(last);
     emit.vec(0, prev);
-    for (; i + 4 <= n; i += 4) {
-        prev = V::template scan<C>(prev, V::sub(ld(c + i + lead), ld(c + i - C)));
-        emit.vec(i, prev);
+    auto step = [&](int64_t j) { return prev = V::template scan<C>(prev, V::sub(ld(c + j + lead), ld(c + j - C))); };
+    for (; i + 16 <= n; i += 16) {
+        typename V::R s[4];
+        for (int k = 0; k < 4; ++k) s[k] = step(i + 4 * k);
+        emit.vec4(i, s);
     }
+    for (; i + 4 <= n; i += 4) emit.vec(i, step(i));
     V::store(last, prev);
     for (int64_t j = i; j < n; ++j) {
         Acc& s = last[4 + (j - i)];
@@ -376,17 +383,20 @@ struct Mean {
         else
             return saturate<Out>(int64_t(f + 0.5f));
     }
-    void vec(Out* d, __m128 sum) const
+    // Integer outputs: the four results as int32, before saturation.
+    __m128i ints(__m128 sum) const
     {
         const __m128 f = _mm_mul_ps(sum, _mm_set1_ps(r));
-        if constexpr (std::is_same_v<Out, float>) {
-            _mm_storeu_ps(d, f);
-        } else {
-            __m128 half = _mm_set1_ps(0.5f);
-            if constexpr (std::is_same_v<Out, Kro16s>)
-                half = _mm_or_ps(half, _mm_and_ps(sum, _mm_set1_ps(-0.0f)));
-            store4(d, _mm_cvttps_epi32(_mm_add_ps(f, half)));
-        }
+        __m128 half = _mm_set1_ps(0.5f);
+        if constexpr (std::is_same_v<Out, Kro16s>) half = _mm_or_ps(half, _mm_and_ps(sum, _mm_set1_ps(-0.0f)));
+        return _mm_cvttps_epi32(_mm_add_ps(f, half));
+    }
+    void vec(Out* d, __m128 sum) const
+    {
+        if constexpr (std::is_same_v<Out, float>)
+            _mm_storeu_ps(d, _mm_mul_ps(sum, _mm_set1_ps(r)));
+        else
+            store4(d, ints(sum));
     }
 };
 
@@ -411,7 +421,19 @@ struct Sum {
 template <class Out, class Acc, int C, int WC, class Op>
 struct Emit {
     Out* d;
-    const Op& op;
+    Op op; // by value: stores through d may alias anything the compiler would reload
+
+    // Sixteen elements at once; 8u means are packed into one store.
+    void vec4(int64_t i, const typename Vec<Acc>::R (&s)[4])
+    {
+        if constexpr (std::is_same_v<Out, Kro8u> && std::is_same_v<Op, Mean<Kro8u>> && C == WC) {
+            const __m128i lo = _mm_packs_epi32(op.ints(Vec<Acc>::toFloat(s[0])), op.ints(Vec<Acc>::toFloat(s[1])));
+            const __m128i hi = _mm_packs_epi32(op.ints(Vec<Acc>::toFloat(s[2])), op.ints(Vec<Acc>::toFloat(s[3])));
+            _mm_storeu_si128(reinterpret_cast<__m128i*>(d + i), _mm_packus_epi16(lo, hi));
+        } else {
+            for (int k = 0; k < 4; ++k) vec(i + 4 * k, s[k]);
+        }
+    }
     void vec(int64_t i, typename Vec<Acc>::R s)
     {
         if constexpr (C == WC) {
