@@ -32,7 +32,12 @@ struct Pixels {
     static void copy(B* d, const B* s, int64_t n)
     {
         if constexpr (C == WC) {
-            std::memmove(d, s, std::size_t(n) * C * sizeof(B));
+            const std::size_t bytes = std::size_t(n) * C * sizeof(B);
+            const auto *dc = reinterpret_cast<const char*>(d), *sc = reinterpret_cast<const char*>(s);
+            if (dc + bytes <= sc || sc + bytes <= dc)
+                std::memcpy(d, s, bytes);
+            else
+                std::memmove(d, s, bytes);
         } else {
             if (d <= s) {
                 for (int64_t i = 0; i < n; ++i)
@@ -84,10 +89,9 @@ void frameRow(B* d, const B* s, const CopyShape& g, Mode mode, const B* value, b
         break;
     case Mode::Mirror:
         if (g.left < g.sw && right < g.sw) { // one reflection: the neighbours in reverse order
-            for (int64_t k = 1; k <= g.left; ++k)
-                for (int c = 0; c < WC; ++c) mid[-k * C + c] = s[k * C + c];
+            for (int64_t k = 1; k <= g.left; ++k) std::memcpy(mid - k * C, s + k * C, sizeof(B) * WC);
             for (int64_t k = 1; k <= right; ++k)
-                for (int c = 0; c < WC; ++c) mid[(g.sw - 1 + k) * C + c] = s[(g.sw - 1 - k) * C + c];
+                std::memcpy(mid + (g.sw - 1 + k) * C, s + (g.sw - 1 - k) * C, sizeof(B) * WC);
             break;
         }
         [[fallthrough]];
