@@ -331,7 +331,31 @@ void windowRow(const Src* c, int64_t w, int64_t mw, Emit& emit)
     for (; i < 4; ++i) last[i] = i < C ? start(i) : next(i, last[i - C]);
     typename V::R prev = V::load(last);
     emit.vec(0, prev);
-    auto step = [&](int64_t j) { return prev = V::template scan<C>(prev, V::sub(ld(c + j + lead), ld(c + j - C))); };
+    auto advance = [&](typename V::R& p, int64_t j) {
+        return p = V::template scan<C>(p, V::sub(ld(c + j + lead), ld(c + j - C)));
+    };
+    auto step = [&](int64_t j) { return advance(prev, j); };
+    if constexpr (kInt) {
+        // Integer sums may restart anywhere: a second chain from the middle of the row runs
+        // beside the first, so that neither waits for the other's additions.
+        const int64_t blocks = (n - 4) / 32;
+        if (blocks > 0) {
+            int64_t b = 4 + 16 * blocks;
+            typename V::R other = ld(c + b - 4);
+            for (int64_t k = 1; k < mw; ++k) other = V::add(other, ld(c + b - 4 + k * C));
+            for (; i < 4 + 16 * blocks; i += 16, b += 16) {
+                typename V::R sa[4], sb[4];
+                for (int k = 0; k < 4; ++k) {
+                    sa[k] = advance(prev, i + 4 * k);
+                    sb[k] = advance(other, b + 4 * k);
+                }
+                emit.vec4(i, sa);
+                emit.vec4(b, sb);
+            }
+            i = b;
+            prev = other;
+        }
+    }
     for (; i + 16 <= n; i += 16) {
         typename V::R s[4];
         for (int k = 0; k < 4; ++k) s[k] = step(i + 4 * k);
@@ -423,8 +447,9 @@ struct Emit {
     Out* d;
     Op op; // by value: stores through d may alias anything the compiler would reload
 
-    // Sixteen elements at once; 8u means are packed into one store.
-    void vec4(int64_t i, const typename Vec<Acc>::R (&s)[4])
+    // Sixteen elements at once; 8u means are packed into one store.  Inlined: the sums
+    // arrive in registers.
+    [[gnu::always_inline]] void vec4(int64_t i, const typename Vec<Acc>::R (&s)[4])
     {
         if constexpr (std::is_same_v<Out, Kro8u> && std::is_same_v<Op, Mean<Kro8u>> && C == WC) {
             const __m128i lo = _mm_packs_epi32(op.ints(Vec<Acc>::toFloat(s[0])), op.ints(Vec<Acc>::toFloat(s[1])));
@@ -434,7 +459,7 @@ struct Emit {
             for (int k = 0; k < 4; ++k) vec(i + 4 * k, s[k]);
         }
     }
-    void vec(int64_t i, typename Vec<Acc>::R s)
+    [[gnu::always_inline]] void vec(int64_t i, typename Vec<Acc>::R s)
     {
         if constexpr (C == WC) {
             if constexpr (std::is_same_v<Acc, int32_t> && std::is_same_v<Out, Kro32s> &&
