@@ -163,6 +163,15 @@ struct Rows {
     const T* outside(const T* roi, const T* mem, int64_t x) const
     {
         if ((x < 0 && f.memLeft) || (x >= width && f.memRight)) return mem + x * C;
+        switch (f.mode) { // the common cases without a division
+        case Mode::Replicate: return roi + (x < 0 ? 0 : width - 1) * C;
+        case Mode::Constant: return value;
+        case Mode::Mirror:
+            if (x < 0 && -x < width) return roi - x * C;
+            if (x >= width && x < 2 * int64_t(width) - 1) return roi + (2 * int64_t(width) - 2 - x) * C;
+            break;
+        default: break;
+        }
         const int64_t s = sourceIndex(f.mode, x, width);
         return s < 0 ? value : roi + s * C;
     }
