@@ -314,10 +314,10 @@ void runCopies()
             const KroiSize sr{c.sw, c.sh}, dr{dw, dh};
             T value[4];
             for (auto& v : value) v = kt::randomValue<T>(rng);
-            kt::Guarded<T> src(kt::Shape{c.sw, c.sh, m.C, 3});
+            kt::Guarded<T> src(kt::Shape{c.sw, c.sh, m.C, 3 * int(sizeof(T))});
             kt::fillRandom(src, rng);
             for (int form = 0; form < 2; ++form) { // R and R_L
-                kt::Guarded<T> dst(kt::Shape{dw, dh, m.C, 5, kt::Guard::Before, 3});
+                kt::Guarded<T> dst(kt::Shape{dw, dh, m.C, 5 * int(sizeof(T)), kt::Guard::Before, 3 * int(sizeof(T))});
                 dst.fillBytes(0xA5);
                 const auto before = dst.snapshot();
                 const auto& f = form ? m.f.rl : m.f.r;
@@ -325,7 +325,7 @@ void runCopies()
                 expectFramed(m, src, dst, c, value, before, form ? "R_L" : "R");
             }
             for (int form = 0; form < 3; ++form) { // IR, IR_L, and R with pSrc == pDst
-                kt::Guarded<T> dst(kt::Shape{dw, dh, m.C, 7});
+                kt::Guarded<T> dst(kt::Shape{dw, dh, m.C, 7 * int(sizeof(T))});
                 dst.fillBytes(0xA5);
                 const auto before = dst.snapshot();
                 for (int y = 0; y < c.sh; ++y)
