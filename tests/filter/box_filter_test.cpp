@@ -139,7 +139,7 @@ void runGeometry(const Member<T, Out>& m, const Geometry& g, const std::vector<u
                    fr = all || (code & 0x80);
         const int ox = fl ? ax : 0, oy = ft ? ay : 0;
         const int iw = g.W + ox + (fr ? right : 0), ih = g.H + oy + (fb ? bottom : 0);
-        kt::Shape shape{iw, ih, m.C, 0, (code & 1) ? kt::Guard::After : kt::Guard::Before, 4};
+        kt::Shape shape{iw, ih, m.C, 0, ((code ^ (code >> 4) ^ (code >> 1)) & 1) ? kt::Guard::After : kt::Guard::Before, 4};
         kt::Guarded<T> src(shape);
         kt::fillRandom(src, rng, mix);
         T value[4];
