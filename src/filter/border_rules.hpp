@@ -100,7 +100,7 @@ struct Frame {
     {
         return !allInMem() && !(roi.width > mask.width && roi.height > mask.height);
     }
-    int widened(int w) const { return w + left + right; } // W + mw - 1
+    int64_t widened(int64_t w) const { return w + left + right; } // W + mw - 1
 };
 
 // Decodes `code` (already accepted by checkFilterMode) for `mask`.  0xF0 sets every flag.
@@ -180,14 +180,15 @@ struct Rows {
     // `roi` null means a constant row.
     void fetchRow(const T* roi, const T* mem, T* out) const
     {
-        const int total = f.widened(width);
+        const int64_t total = f.widened(width);
         if (!roi) {
-            for (int x = 0; x < total; ++x) std::memcpy(out + x * C, value, sizeof(T) * C);
+            for (int64_t x = 0; x < total; ++x) std::memcpy(out + x * C, value, sizeof(T) * C);
             return;
         }
-        for (int x = -f.left; x < 0; ++x) std::memcpy(out + (x + f.left) * C, outside(roi, mem, x), sizeof(T) * C);
+        for (int64_t x = -f.left; x < 0; ++x)
+            std::memcpy(out + (x + f.left) * C, outside(roi, mem, x), sizeof(T) * C);
         std::memcpy(out + f.left * C, roi, sizeof(T) * C * std::size_t(width));
-        for (int x = width; x < width + f.right; ++x)
+        for (int64_t x = width; x < int64_t(width) + f.right; ++x)
             std::memcpy(out + (x + f.left) * C, outside(roi, mem, x), sizeof(T) * C);
     }
     void fetchRow(int64_t y, T* out) const

@@ -253,7 +253,7 @@ struct ColumnSums {
             for (int k = 0; k < C; ++k) at(x)[k] = at(x)[k] + (Acc(a[k]) - Acc(b[k]));
         };
         if (!in.roi || !out.roi) {
-            for (int64_t x = -rows.f.left; x < rows.width + rows.f.right; ++x) one(x);
+            for (int64_t x = -rows.f.left; x < int64_t(rows.width) + rows.f.right; ++x) one(x);
             return;
         }
         borders(one);
