@@ -89,9 +89,21 @@ void frameRow(B* d, const B* s, const CopyShape& g, Mode mode, const B* value, b
         break;
     case Mode::Mirror:
         if (g.left < g.sw && right < g.sw) { // one reflection: the neighbours in reverse order
-            for (int64_t k = 1; k <= g.left; ++k) std::memcpy(mid - k * C, s + k * C, sizeof(B) * WC);
+            constexpr std::size_t kPixel = sizeof(B) * WC;
+            if constexpr (kPixel == 3 && C == WC) {
+                // Three-byte pixels move as four bytes where the fourth lands on a pixel
+                // written next and is read from inside the row: outermost first on the left,
+                // innermost first on the right, the last one of each side as three bytes.
+                int64_t k = g.left;
+                for (; k > 1 && k + 1 < g.sw; --k) std::memcpy(mid - k * C, s + k * C, 4);
+                for (; k >= 1; --k) std::memcpy(mid - k * C, s + k * C, kPixel);
+                for (k = 1; k < right; ++k) std::memcpy(mid + (g.sw - 1 + k) * C, s + (g.sw - 1 - k) * C, 4);
+                for (; k <= right; ++k) std::memcpy(mid + (g.sw - 1 + k) * C, s + (g.sw - 1 - k) * C, kPixel);
+                break;
+            }
+            for (int64_t k = 1; k <= g.left; ++k) std::memcpy(mid - k * C, s + k * C, kPixel);
             for (int64_t k = 1; k <= right; ++k)
-                std::memcpy(mid + (g.sw - 1 + k) * C, s + (g.sw - 1 - k) * C, sizeof(B) * WC);
+                std::memcpy(mid + (g.sw - 1 + k) * C, s + (g.sw - 1 - k) * C, kPixel);
             break;
         }
         [[fallthrough]];
