@@ -62,63 +62,63 @@ KroStatus wrapByPlanes(const Image& in, Image& out, int top, int left)
     return kroStsOk;
 }
 
+// The library members one pixel type offers the program, indexed C1, C3, C4.
 template <class T>
-KroStatus copyBorder(const Image& in, Image& out, int top, int left, const std::string& mode, const int (&v)[4])
+struct Members {
+    using Frame = KroStatus (*)(const T*, int, KroiSize, T*, int, KroiSize, int, int);
+    using Const = KroStatus (*)(const T*, int, KroiSize, T*, int, KroiSize, int, int, const T*);
+    using Box = KroStatus (*)(const T*, int, T*, int, KroiSize, KroiSize, KroiBorderMode, const T*, Kro8u*);
+    Frame replicate[3], mirror[3];
+    KroStatus (*const1)(const T*, int, KroiSize, T*, int, KroiSize, int, int, T);
+    Const constN[2];
+    Box box[3];
+    KroDataType type;
+};
+
+const Members<Kro8u> k8u{
+    {kroiCopyReplicateBorder_8u_C1R, kroiCopyReplicateBorder_8u_C3R, kroiCopyReplicateBorder_8u_C4R},
+    {kroiCopyMirrorBorder_8u_C1R, kroiCopyMirrorBorder_8u_C3R, kroiCopyMirrorBorder_8u_C4R},
+    kroiCopyConstBorder_8u_C1R,
+    {kroiCopyConstBorder_8u_C3R, kroiCopyConstBorder_8u_C4R},
+    {kroiFilterBoxBorder_8u_C1R, kroiFilterBoxBorder_8u_C3R, kroiFilterBoxBorder_8u_C4R},
+    kro8u};
+const Members<Kro16u> k16u{
+    {kroiCopyReplicateBorder_16u_C1R, kroiCopyReplicateBorder_16u_C3R, kroiCopyReplicateBorder_16u_C4R},
+    {kroiCopyMirrorBorder_16u_C1R, kroiCopyMirrorBorder_16u_C3R, kroiCopyMirrorBorder_16u_C4R},
+    kroiCopyConstBorder_16u_C1R,
+    {kroiCopyConstBorder_16u_C3R, kroiCopyConstBorder_16u_C4R},
+    {kroiFilterBoxBorder_16u_C1R, kroiFilterBoxBorder_16u_C3R, kroiFilterBoxBorder_16u_C4R},
+    kro16u};
+
+int slot(int channels) { return channels == 1 ? 0 : channels == 3 ? 1 : 2; }
+
+template <class T>
+KroStatus copyBorder(const Members<T>& m, const Image& in, Image& out, int top, int left, const std::string& mode,
+                     const int (&v)[4])
 {
     const KroiSize s{in.width, in.height}, d{out.width, out.height};
     const T* p = in.row<T>(0);
     T* q = out.row<T>(0);
     const T value[4] = {T(v[0]), T(v[1]), T(v[2]), T(v[3])};
-    const int C = in.channels;
+    const int k = slot(in.channels);
     if (mode == "wrap") return wrapByPlanes<T>(in, out, top, left);
-    if constexpr (sizeof(T) == 1) {
-        if (mode == "replicate")
-            return C == 1 ? kroiCopyReplicateBorder_8u_C1R(p, in.step, s, q, out.step, d, top, left)
-                 : C == 3 ? kroiCopyReplicateBorder_8u_C3R(p, in.step, s, q, out.step, d, top, left)
-                          : kroiCopyReplicateBorder_8u_C4R(p, in.step, s, q, out.step, d, top, left);
-        if (mode == "mirror")
-            return C == 1 ? kroiCopyMirrorBorder_8u_C1R(p, in.step, s, q, out.step, d, top, left)
-                 : C == 3 ? kroiCopyMirrorBorder_8u_C3R(p, in.step, s, q, out.step, d, top, left)
-                          : kroiCopyMirrorBorder_8u_C4R(p, in.step, s, q, out.step, d, top, left);
-        return C == 1 ? kroiCopyConstBorder_8u_C1R(p, in.step, s, q, out.step, d, top, left, value[0])
-             : C == 3 ? kroiCopyConstBorder_8u_C3R(p, in.step, s, q, out.step, d, top, left, value)
-                      : kroiCopyConstBorder_8u_C4R(p, in.step, s, q, out.step, d, top, left, value);
-    } else {
-        if (mode == "replicate")
-            return C == 1 ? kroiCopyReplicateBorder_16u_C1R(p, in.step, s, q, out.step, d, top, left)
-                 : C == 3 ? kroiCopyReplicateBorder_16u_C3R(p, in.step, s, q, out.step, d, top, left)
-                          : kroiCopyReplicateBorder_16u_C4R(p, in.step, s, q, out.step, d, top, left);
-        if (mode == "mirror")
-            return C == 1 ? kroiCopyMirrorBorder_16u_C1R(p, in.step, s, q, out.step, d, top, left)
-                 : C == 3 ? kroiCopyMirrorBorder_16u_C3R(p, in.step, s, q, out.step, d, top, left)
-                          : kroiCopyMirrorBorder_16u_C4R(p, in.step, s, q, out.step, d, top, left);
-        return C == 1 ? kroiCopyConstBorder_16u_C1R(p, in.step, s, q, out.step, d, top, left, value[0])
-             : C == 3 ? kroiCopyConstBorder_16u_C3R(p, in.step, s, q, out.step, d, top, left, value)
-                      : kroiCopyConstBorder_16u_C4R(p, in.step, s, q, out.step, d, top, left, value);
-    }
+    if (mode == "replicate") return m.replicate[k](p, in.step, s, q, out.step, d, top, left);
+    if (mode == "mirror") return m.mirror[k](p, in.step, s, q, out.step, d, top, left);
+    if (k == 0) return m.const1(p, in.step, s, q, out.step, d, top, left, value[0]);
+    return m.constN[k - 1](p, in.step, s, q, out.step, d, top, left, value);
 }
 
 template <class T>
-KroStatus box(const Image& in, Image& out, KroiSize mask, KroiBorderMode code, const int (&v)[4])
+KroStatus box(const Members<T>& m, const Image& in, Image& out, KroiSize mask, KroiBorderMode code, const int (&v)[4])
 {
     int size = 0;
-    const int C = in.channels;
-    KroStatus st = kroiFilterBoxBorderGetBufferSize({in.width, in.height}, mask, sizeof(T) == 1 ? kro8u : kro16u, C,
-                                                    &size);
+    const KroiSize roi{in.width, in.height};
+    const KroStatus st = kroiFilterBoxBorderGetBufferSize(roi, mask, m.type, in.channels, &size);
     if (st < 0) return st;
     std::vector<Kro8u> buffer(static_cast<std::size_t>(size));
     const T value[4] = {T(v[0]), T(v[1]), T(v[2]), T(v[3])};
-    const T* p = in.row<T>(0);
-    T* q = out.row<T>(0);
-    const KroiSize roi{in.width, in.height};
-    if constexpr (sizeof(T) == 1)
-        return C == 1 ? kroiFilterBoxBorder_8u_C1R(p, in.step, q, out.step, roi, mask, code, value, buffer.data())
-             : C == 3 ? kroiFilterBoxBorder_8u_C3R(p, in.step, q, out.step, roi, mask, code, value, buffer.data())
-                      : kroiFilterBoxBorder_8u_C4R(p, in.step, q, out.step, roi, mask, code, value, buffer.data());
-    else
-        return C == 1 ? kroiFilterBoxBorder_16u_C1R(p, in.step, q, out.step, roi, mask, code, value, buffer.data())
-             : C == 3 ? kroiFilterBoxBorder_16u_C3R(p, in.step, q, out.step, roi, mask, code, value, buffer.data())
-                      : kroiFilterBoxBorder_16u_C4R(p, in.step, q, out.step, roi, mask, code, value, buffer.data());
+    return m.box[slot(in.channels)](in.row<T>(0), in.step, out.row<T>(0), out.step, roi, mask, code, value,
+                                    buffer.data());
 }
 
 // Reads IN; refuses gray + alpha, which the border copies and the box filter do not take.
@@ -161,8 +161,8 @@ int runBorder(const Args& args)
         Image in;
         if (!load("border", args[0], in)) return kExitFailure;
         Image out(in.width + side[1] + side[3], in.height + side[0] + side[2], in.channels, in.depth);
-        const KroStatus st = in.depth == 8 ? copyBorder<Kro8u>(in, out, side[0], side[1], mode, value)
-                                           : copyBorder<Kro16u>(in, out, side[0], side[1], mode, value);
+        const KroStatus st = in.depth == 8 ? copyBorder(k8u, in, out, side[0], side[1], mode, value)
+                                           : copyBorder(k16u, in, out, side[0], side[1], mode, value);
         if (st < 0) {
             std::fprintf(stderr, "kroi border: the copy returned %d\n", st);
             return kExitFailure;
@@ -204,7 +204,7 @@ int runBox(const Args& args)
         Image in;
         if (!load("box", args[0], in)) return kExitFailure;
         Image out(in.width, in.height, in.channels, in.depth);
-        const KroStatus st = in.depth == 8 ? box<Kro8u>(in, out, mask, code, value) : box<Kro16u>(in, out, mask, code, value);
+        const KroStatus st = in.depth == 8 ? box(k8u, in, out, mask, code, value) : box(k16u, in, out, mask, code, value);
         if (st < 0) {
             std::fprintf(stderr, "kroi box: the filter returned %d\n", st);
             return kExitFailure;
