@@ -64,135 +64,82 @@ KroStatus copyR(const T* s, int64_t ss, KroiSizeL sr, T* d, int64_t ds, KroiSize
 }  // namespace
 
 // ---- the exported shapes ---------------------------------------------------------------
-// Replicate, mirror, wrap (no value).
-template <Mode M, class T, int C, int WC>
-KroStatus frameR(const T* s, int ss, KroiSize sr, T* d, int ds, KroiSize dr, int top, int left)
-{
-    return copyR<M, T, C, WC>(s, ss, wide(sr), d, ds, wide(dr), top, left, nullptr);
-}
-template <Mode M, class T, int C, int WC>
-KroStatus frameRL(const T* s, int64_t ss, KroiSizeL sr, T* d, int64_t ds, KroiSizeL dr, int64_t top, int64_t left)
-{
-    return copyR<M, T, C, WC>(s, ss, sr, d, ds, dr, top, left, nullptr);
-}
-template <Mode M, class T, int C, int WC>
-KroStatus frameIR(T* p, int step, KroiSize sr, KroiSize dr, int top, int left)
-{
-    return copyIR<M, T, C, WC>(p, step, wide(sr), wide(dr), top, left, nullptr);
-}
-template <Mode M, class T, int C, int WC>
-KroStatus frameIRL(T* p, int64_t step, KroiSizeL sr, KroiSizeL dr, int64_t top, int64_t left)
-{
-    return copyIR<M, T, C, WC>(p, step, sr, dr, top, left, nullptr);
-}
+// The list names them as border::<Mode>::<form><T, C, WC>: the forms R, RL (R_L), IR and IRL
+// (IR_L) of each mode, the constant ones with the value by value for one channel (R1 ...).
 
-// The three modes without a value, by name (the list lines name them so).
-template <class T, int C, int WC>
-KroStatus replicateR(const T* s, int ss, KroiSize sr, T* d, int ds, KroiSize dr, int top, int left)
-{
-    return frameR<Mode::Replicate, T, C, WC>(s, ss, sr, d, ds, dr, top, left);
-}
-template <class T, int C, int WC>
-KroStatus replicateRL(const T* s, int64_t ss, KroiSizeL sr, T* d, int64_t ds, KroiSizeL dr, int64_t top, int64_t left)
-{
-    return frameRL<Mode::Replicate, T, C, WC>(s, ss, sr, d, ds, dr, top, left);
-}
-template <class T, int C, int WC>
-KroStatus replicateIR(T* p, int step, KroiSize sr, KroiSize dr, int top, int left)
-{
-    return frameIR<Mode::Replicate, T, C, WC>(p, step, sr, dr, top, left);
-}
-template <class T, int C, int WC>
-KroStatus replicateIRL(T* p, int64_t step, KroiSizeL sr, KroiSizeL dr, int64_t top, int64_t left)
-{
-    return frameIRL<Mode::Replicate, T, C, WC>(p, step, sr, dr, top, left);
-}
-template <class T, int C, int WC>
-KroStatus mirrorR(const T* s, int ss, KroiSize sr, T* d, int ds, KroiSize dr, int top, int left)
-{
-    return frameR<Mode::Mirror, T, C, WC>(s, ss, sr, d, ds, dr, top, left);
-}
-template <class T, int C, int WC>
-KroStatus mirrorRL(const T* s, int64_t ss, KroiSizeL sr, T* d, int64_t ds, KroiSizeL dr, int64_t top, int64_t left)
-{
-    return frameRL<Mode::Mirror, T, C, WC>(s, ss, sr, d, ds, dr, top, left);
-}
-template <class T, int C, int WC>
-KroStatus mirrorIR(T* p, int step, KroiSize sr, KroiSize dr, int top, int left)
-{
-    return frameIR<Mode::Mirror, T, C, WC>(p, step, sr, dr, top, left);
-}
-template <class T, int C, int WC>
-KroStatus mirrorIRL(T* p, int64_t step, KroiSizeL sr, KroiSizeL dr, int64_t top, int64_t left)
-{
-    return frameIRL<Mode::Mirror, T, C, WC>(p, step, sr, dr, top, left);
-}
-template <class T, int C, int WC>
-KroStatus wrapR(const T* s, int ss, KroiSize sr, T* d, int ds, KroiSize dr, int top, int left)
-{
-    return frameR<Mode::Wrap, T, C, WC>(s, ss, sr, d, ds, dr, top, left);
-}
-template <class T, int C, int WC>
-KroStatus wrapRL(const T* s, int64_t ss, KroiSizeL sr, T* d, int64_t ds, KroiSizeL dr, int64_t top, int64_t left)
-{
-    return frameRL<Mode::Wrap, T, C, WC>(s, ss, sr, d, ds, dr, top, left);
-}
-template <class T, int C, int WC>
-KroStatus wrapIR(T* p, int step, KroiSize sr, KroiSize dr, int top, int left)
-{
-    return frameIR<Mode::Wrap, T, C, WC>(p, step, sr, dr, top, left);
-}
-template <class T, int C, int WC>
-KroStatus wrapIRL(T* p, int64_t step, KroiSizeL sr, KroiSizeL dr, int64_t top, int64_t left)
-{
-    return frameIRL<Mode::Wrap, T, C, WC>(p, step, sr, dr, top, left);
-}
+template <Mode M>
+struct Copies {
+    template <class T, int C, int WC>
+    static KroStatus R(const T* s, int ss, KroiSize sr, T* d, int ds, KroiSize dr, int top, int left)
+    {
+        return copyR<M, T, C, WC>(s, ss, wide(sr), d, ds, wide(dr), top, left, nullptr);
+    }
+    template <class T, int C, int WC>
+    static KroStatus RL(const T* s, int64_t ss, KroiSizeL sr, T* d, int64_t ds, KroiSizeL dr, int64_t top,
+                        int64_t left)
+    {
+        return copyR<M, T, C, WC>(s, ss, sr, d, ds, dr, top, left, nullptr);
+    }
+    template <class T, int C, int WC>
+    static KroStatus IR(T* p, int step, KroiSize sr, KroiSize dr, int top, int left)
+    {
+        return copyIR<M, T, C, WC>(p, step, wide(sr), wide(dr), top, left, nullptr);
+    }
+    template <class T, int C, int WC>
+    static KroStatus IRL(T* p, int64_t step, KroiSizeL sr, KroiSizeL dr, int64_t top, int64_t left)
+    {
+        return copyIR<M, T, C, WC>(p, step, sr, dr, top, left, nullptr);
+    }
+};
+using Replicate = Copies<Mode::Replicate>;
+using Mirror = Copies<Mode::Mirror>;
+using Wrap = Copies<Mode::Wrap>;
 
-// Constant, one channel: the value by value.
-template <class T>
-KroStatus constR1(const T* s, int ss, KroiSize sr, T* d, int ds, KroiSize dr, int top, int left, T v)
-{
-    return copyR<Mode::Constant, T, 1, 1>(s, ss, wide(sr), d, ds, wide(dr), top, left, &v);
-}
-template <class T>
-KroStatus constRL1(const T* s, int64_t ss, KroiSizeL sr, T* d, int64_t ds, KroiSizeL dr, int64_t top, int64_t left,
-                   T v)
-{
-    return copyR<Mode::Constant, T, 1, 1>(s, ss, sr, d, ds, dr, top, left, &v);
-}
-template <class T>
-KroStatus constIR1(T* p, int step, KroiSize sr, KroiSize dr, int top, int left, T v)
-{
-    return copyIR<Mode::Constant, T, 1, 1>(p, step, wide(sr), wide(dr), top, left, &v);
-}
-template <class T>
-KroStatus constIRL1(T* p, int64_t step, KroiSizeL sr, KroiSizeL dr, int64_t top, int64_t left, T v)
-{
-    return copyIR<Mode::Constant, T, 1, 1>(p, step, sr, dr, top, left, &v);
-}
-
-// Constant, several channels: a pointer to the values.
-template <class T, int C, int WC>
-KroStatus constR(const T* s, int ss, KroiSize sr, T* d, int ds, KroiSize dr, int top, int left, const T* v)
-{
-    return copyR<Mode::Constant, T, C, WC>(s, ss, wide(sr), d, ds, wide(dr), top, left, v);
-}
-template <class T, int C, int WC>
-KroStatus constRL(const T* s, int64_t ss, KroiSizeL sr, T* d, int64_t ds, KroiSizeL dr, int64_t top, int64_t left,
-                  const T* v)
-{
-    return copyR<Mode::Constant, T, C, WC>(s, ss, sr, d, ds, dr, top, left, v);
-}
-template <class T, int C, int WC>
-KroStatus constIR(T* p, int step, KroiSize sr, KroiSize dr, int top, int left, const T* v)
-{
-    return copyIR<Mode::Constant, T, C, WC>(p, step, wide(sr), wide(dr), top, left, v);
-}
-template <class T, int C, int WC>
-KroStatus constIRL(T* p, int64_t step, KroiSizeL sr, KroiSizeL dr, int64_t top, int64_t left, const T* v)
-{
-    return copyIR<Mode::Constant, T, C, WC>(p, step, sr, dr, top, left, v);
-}
+struct Constant {
+    static constexpr Mode M = Mode::Constant;
+    template <class T>
+    static KroStatus R1(const T* s, int ss, KroiSize sr, T* d, int ds, KroiSize dr, int top, int left, T v)
+    {
+        return copyR<M, T, 1, 1>(s, ss, wide(sr), d, ds, wide(dr), top, left, &v);
+    }
+    template <class T>
+    static KroStatus RL1(const T* s, int64_t ss, KroiSizeL sr, T* d, int64_t ds, KroiSizeL dr, int64_t top,
+                         int64_t left, T v)
+    {
+        return copyR<M, T, 1, 1>(s, ss, sr, d, ds, dr, top, left, &v);
+    }
+    template <class T>
+    static KroStatus IR1(T* p, int step, KroiSize sr, KroiSize dr, int top, int left, T v)
+    {
+        return copyIR<M, T, 1, 1>(p, step, wide(sr), wide(dr), top, left, &v);
+    }
+    template <class T>
+    static KroStatus IRL1(T* p, int64_t step, KroiSizeL sr, KroiSizeL dr, int64_t top, int64_t left, T v)
+    {
+        return copyIR<M, T, 1, 1>(p, step, sr, dr, top, left, &v);
+    }
+    template <class T, int C, int WC>
+    static KroStatus R(const T* s, int ss, KroiSize sr, T* d, int ds, KroiSize dr, int top, int left, const T* v)
+    {
+        return copyR<M, T, C, WC>(s, ss, wide(sr), d, ds, wide(dr), top, left, v);
+    }
+    template <class T, int C, int WC>
+    static KroStatus RL(const T* s, int64_t ss, KroiSizeL sr, T* d, int64_t ds, KroiSizeL dr, int64_t top,
+                        int64_t left, const T* v)
+    {
+        return copyR<M, T, C, WC>(s, ss, sr, d, ds, dr, top, left, v);
+    }
+    template <class T, int C, int WC>
+    static KroStatus IR(T* p, int step, KroiSize sr, KroiSize dr, int top, int left, const T* v)
+    {
+        return copyIR<M, T, C, WC>(p, step, wide(sr), wide(dr), top, left, v);
+    }
+    template <class T, int C, int WC>
+    static KroStatus IRL(T* p, int64_t step, KroiSizeL sr, KroiSizeL dr, int64_t top, int64_t left, const T* v)
+    {
+        return copyIR<M, T, C, WC>(p, step, sr, dr, top, left, v);
+    }
+};
 
 }  // namespace KROI_TIER::border
 
