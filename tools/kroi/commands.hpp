@@ -49,6 +49,8 @@ int runSwap(const Args& args);      // layout.cpp
 int runCompare(const Args& args); // layout.cpp
 // end of section COMPARE
 // section BORDER
+int runBorder(const Args& args); // border.cpp
+int runBox(const Args& args);    // border.cpp
 // end of section BORDER
 // section MINMAX
 // end of section MINMAX

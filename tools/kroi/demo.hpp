@@ -131,6 +131,8 @@ Image swapBgr8u(DemoContext& ctx);
 Image compareGe8u(DemoContext& ctx);
 // end of section COMPARE
 // section BORDER
+Image demoMirrorBorder(DemoContext& ctx); // demo_border.cpp
+Image demoBox(DemoContext& ctx);          // demo_border.cpp
 // end of section BORDER
 // section MINMAX
 // end of section MINMAX

@@ -149,6 +149,11 @@ constexpr DemoEntry kEntries[] = {
      compareGe8u},
     // end of section COMPARE
     // section BORDER
+    {"border-mirror-8u-c3",
+     "kroiCopyMirrorBorder_8u_C3R(src, srcStep, {384, 256}, dst, dstStep, {512, 384}, 96, 64)", demoMirrorBorder},
+    {"box-15x15-8u-c3",
+     "kroiFilterBoxBorder_8u_C3R(src, srcStep, dst, dstStep, {512, 384}, {15, 15}, kroBorderMirror, NULL, buffer)",
+     demoBox},
     // end of section BORDER
     // section MINMAX
     // end of section MINMAX
