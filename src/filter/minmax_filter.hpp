@@ -115,19 +115,35 @@ void run(const border::Rows<T, C>& rows, bool staged, T* dst, std::ptrdiff_t dst
     const bool fetch = !(f.memLeft && f.memRight);
     T* temp = reinterpret_cast<T*>(area);
 
+    // Pixels x0 .. x0+count-1 of the widened row around `r` into temp.
+    auto piece = [&](const T* r, int64_t x0, int64_t count) {
+        for (int64_t x = x0; x < x0 + count; ++x) {
+            const T* px = (x >= 0 && x < W) ? r + x * C : rows.outside(r, r, x);
+            std::memcpy(temp + (x - x0) * C, px, sizeof(T) * C);
+        }
+    };
     // Row result of virtual row y into `out`.
     auto rowPass = [&](int64_t y, T* out, RowKernel<T> kernel) {
         const T* r = rows.row(y);
-        const T* in;
-        T* work = temp;
         if (r && !fetch) {
-            in = r - f.left * C;
-            if (staged) work = const_cast<T*>(in);
+            const T* in = r - f.left * C;
+            kernel(in, staged ? const_cast<T*>(in) : temp, out, W, mw);
+        } else if (r && W >= mw) {
+            // The inner outputs read the row in place; the few at each end, whose windows
+            // reach past the side, read short pieces of the widened row.
+            kernel(r, temp, out + f.left * C, W - mw + 1, mw);
+            if (f.left > 0) {
+                piece(r, -f.left, f.left + mw - 1);
+                kernel(temp, temp, out, f.left, mw);
+            }
+            if (f.right > 0) {
+                piece(r, W - f.right - f.left, f.right + mw - 1);
+                kernel(temp, temp, out + (W - f.right) * C, f.right, mw);
+            }
         } else {
             rows.fetchRow(r, r, temp);
-            in = temp;
+            kernel(temp, temp, out, W, mw);
         }
-        kernel(in, work, out, W, mw);
     };
     auto dstRow = [&](int64_t y) { return rowAt(dst, dstStep, y); };
     auto slot = [&](int i) { return reinterpret_cast<T*>(ring + std::size_t(i) * slotBytes); };
@@ -141,11 +157,13 @@ void run(const border::Rows<T, C>& rows, bool staged, T* dst, std::ptrdiff_t dst
     const int64_t total = int64_t(H) + mh - 1; // row results
     if (mh <= kDirectRowsMax) {
         const T* window[kDirectRowsMax];
+        for (int i = 0; i < mh; ++i) window[i] = slot(i);
+        using Columns = void (*)(const T* const*, T*, long);
+        const Columns col = mh == 2 ? columns<Op, T, kAlpha, 2>
+                          : mh == 3 ? columns<Op, T, kAlpha, 3> : columns<Op, T, kAlpha, 4>;
         for (int64_t r = 0; r < total; ++r) {
             rowPass(r - f.top, slot(int(r % mh)), k);
-            if (r < mh - 1) continue;
-            for (int i = 0; i < mh; ++i) window[i] = slot(i);
-            columns<Op, T, kAlpha>(window, mh, dstRow(r - mh + 1), n);
+            if (r >= mh - 1) col(window, dstRow(r - mh + 1), n);
         }
         return;
     }
@@ -194,7 +212,7 @@ KroStatus filterBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, KroiSiz
     if (mask.width == 1 && mask.height == 1) { // a plain copy of the ROI
         for (int y = 0; y < roi.height; ++y) {
             const T* s = rowAt(pSrc, srcStep, y);
-            columns<Op, T, kAlpha>(&s, 1, rowAt(pDst, dstStep, y), n);
+            columns<Op, T, kAlpha, 1>(&s, rowAt(pDst, dstStep, y), n);
         }
         return kroStsOk;
     }

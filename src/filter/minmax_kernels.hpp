@@ -178,26 +178,44 @@ inline void pairs(const T* a, const T* b, T* d, long n, const O& o)
     for (; i < n; ++i) o.one(d, i, Op::absorb(a[i], b[i]));
 }
 
-// Window of 4..kDoublingMax pixels by doubling: after pass k, work[i] is the extreme of 2^k
-// consecutive pixels from i; the last pass combines two overlapping spans s and m - s with
-// s >= m/2.  Each pass runs in place in `work` (a forward pass reads i + s*C after
-// writing i, never before), so `work` needs W+m-2 pixels and may be `in` itself.
+// d[i] = the extreme of a[i], a[i+s], a[i+2s], a[i+3s] (s in elements), i < n; d may be a.
+// kFirst: `a` is a source row, whose NaNs are removed here.
+template <class Op, class T, bool kFirst>
+void quads(const T* a, T* d, long n, long s)
+{
+    using S = Simd<T>;
+    long i = 0;
+    for (; i + S::L <= n; i += S::L) {
+        auto v = S::load(a + i);
+        if constexpr (kFirst) v = Op::first(v);
+        v = Op::absorb(Op::absorb(Op::absorb(v, S::load(a + i + s)), S::load(a + i + 2 * s)), S::load(a + i + 3 * s));
+        S::store(d + i, v);
+    }
+    for (; i < n; ++i) {
+        T v = kFirst ? Op::first(a[i]) : a[i];
+        d[i] = Op::absorb(Op::absorb(Op::absorb(v, a[i + s]), a[i + 2 * s]), a[i + 3 * s]);
+    }
+}
+
+// Window of 4..kDoublingMax pixels by growing spans: after a pass, work[i] is the extreme of
+// s consecutive pixels from i, s growing fourfold while it can (then twofold); the last pass
+// combines two overlapping spans s and m - s with s >= m/2.  Each pass runs in place in
+// `work` (a forward pass reads i + k*s*C after writing i, never before), so `work` needs
+// W+m-4 pixels and may be `in` itself.
 template <class Op, class T, int C, bool kKeepAlpha>
 void rowDoubling(const T* in, T* work, T* out, long width, int m)
 {
-    using S = Simd<T>;
-    const Out<T, false> plain;
-    long len = (width + m - 1) * C - C; // valid elements after the first pass
-    {
-        long i = 0;
-        for (; i + S::L <= len; i += S::L)
-            S::store(work + i, Op::absorb(Op::first(S::load(in + i)), S::load(in + i + C)));
-        for (; i < len; ++i) work[i] = Op::absorb(Op::first(in[i]), in[i + C]);
+    long len = (width + m - 4) * C; // valid elements after the first pass
+    quads<Op, T, true>(in, work, len, C);
+    long s = 4;
+    for (; 4 * s <= m; s *= 4) {
+        len -= 3 * s * C;
+        quads<Op, T, false>(work, work, len, s * C);
     }
-    long s = 2;
-    for (; 2 * s <= m; s *= 2) {
+    if (2 * s <= m) {
         len -= s * C;
-        pairs<Op>(work, work + s * C, work, len, plain);
+        pairs<Op>(work, work + s * C, work, len, Out<T, false>{});
+        s *= 2;
     }
     pairs<Op>(work, work + (m - s) * C, out, width * C, Out<T, kKeepAlpha>{});
 }
@@ -234,21 +252,23 @@ void rowBlocks(const T* in, T*, T* out, long width, int m)
 
 // ---- column kernels ------------------------------------------------------------------------
 
-// d = the extreme of k rows, element by element (k = 1 is a copy).
-template <class Op, class T, bool kKeepAlpha>
-void columns(const T* const* rows, int k, T* d, long n)
+// d = the extreme of K rows, element by element (K = 1 is a copy).
+template <class Op, class T, bool kKeepAlpha, int K>
+void columns(const T* const* rows, T* d, long n)
 {
     using S = Simd<T>;
     const Out<T, kKeepAlpha> o;
+    const T* r[K];
+    for (int k = 0; k < K; ++k) r[k] = rows[k];
     long i = 0;
     for (; i + S::L <= n; i += S::L) {
-        auto acc = S::load(rows[0] + i);
-        for (int r = 1; r < k; ++r) acc = Op::absorb(acc, S::load(rows[r] + i));
+        auto acc = S::load(r[0] + i);
+        for (int k = 1; k < K; ++k) acc = Op::absorb(acc, S::load(r[k] + i));
         o.vec(d + i, acc);
     }
     for (; i < n; ++i) {
-        T acc = rows[0][i];
-        for (int r = 1; r < k; ++r) acc = Op::absorb(acc, rows[r][i]);
+        T acc = r[0][i];
+        for (int k = 1; k < K; ++k) acc = Op::absorb(acc, r[k][i]);
         o.one(d, i, acc);
     }
 }
