@@ -115,16 +115,22 @@ void run(const border::Rows<T, C>& rows, bool staged, T* dst, std::ptrdiff_t dst
     const bool fetch = !(f.memLeft && f.memRight);
     T* temp = reinterpret_cast<T*>(area);
 
-    // Pixels x0 .. x0+count-1 of the widened row around `r` into temp.
+    // Pixels x0 .. x0+count-1 of the widened row around `r` into temp: the part inside the
+    // row in one copy, the rest pixel by pixel through the border rule.
     auto piece = [&](const T* r, int64_t x0, int64_t count) {
-        for (int64_t x = x0; x < x0 + count; ++x) {
-            const T* px = (x >= 0 && x < W) ? r + x * C : rows.outside(r, r, x);
-            std::memcpy(temp + (x - x0) * C, px, sizeof(T) * C);
-        }
+        const int64_t in0 = x0 < 0 ? 0 : x0, in1 = x0 + count < W ? x0 + count : W;
+        std::memcpy(temp + (in0 - x0) * C, r + in0 * C, sizeof(T) * C * std::size_t(in1 - in0));
+        for (int64_t x = x0; x < in0; ++x) std::memcpy(temp + (x - x0) * C, rows.outside(r, r, x), sizeof(T) * C);
+        for (int64_t x = in1; x < x0 + count; ++x)
+            std::memcpy(temp + (x - x0) * C, rows.outside(r, r, x), sizeof(T) * C);
     };
     // Row result of virtual row y into `out`.
     auto rowPass = [&](int64_t y, T* out, RowKernel<T> kernel) {
         const T* r = rows.row(y);
+        if (y + 1 < H) { // the next row, on its way to the cache while this one is filtered
+            const char* next = reinterpret_cast<const char*>(rows.memRow(y + 1));
+            for (std::size_t o = 0; o < std::size_t(W) * C * sizeof(T); o += 64) _mm_prefetch(next + o, _MM_HINT_T0);
+        }
         if (r && !fetch) {
             const T* in = r - f.left * C;
             kernel(in, staged ? const_cast<T*>(in) : temp, out, W, mw);
@@ -155,6 +161,29 @@ void run(const border::Rows<T, C>& rows, bool staged, T* dst, std::ptrdiff_t dst
     }
     const RowKernel<T> k = rowKernel<Op, T, C, kAlpha, false>(mw);
     const int64_t total = int64_t(H) + mh - 1; // row results
+    if (mh == 3) {
+        // Output rows in pairs, which share their middle two row results; the fourth row
+        // result goes after the widened row in area S, or into the staged image's first
+        // row, consumed before the fourth row result is made.
+        T* r4[4] = {slot(0), slot(1), slot(2),
+                    staged ? const_cast<T*>(rows.row(-f.top)) : temp + (W + mw - 1) * C};
+        auto R = [&](int64_t r) { return r4[r & 3]; };
+        int64_t made = 0;
+        auto upTo = [&](int64_t last) {
+            for (; made <= last; ++made) rowPass(made - f.top, R(made), k);
+        };
+        for (int64_t y = 0; y < H; y += 2) {
+            if (y + 1 < H) {
+                upTo(y + 3);
+                columnsPair3<Op, T, kAlpha>(R(y), R(y + 1), R(y + 2), R(y + 3), dstRow(y), dstRow(y + 1), n);
+            } else {
+                upTo(y + 2);
+                const T* w3[3] = {R(y), R(y + 1), R(y + 2)};
+                columns<Op, T, kAlpha, 3>(w3, dstRow(y), n);
+            }
+        }
+        return;
+    }
     if (mh <= kDirectRowsMax) {
         const T* window[kDirectRowsMax];
         for (int i = 0; i < mh; ++i) window[i] = slot(i);

@@ -156,6 +156,7 @@ void rowDirect(const T* in, T*, T* out, long width, int)
     const Out<T, kKeepAlpha> o;
     const long n = width * C;
     long i = 0;
+#pragma GCC unroll 2
     for (; i + S::L <= n; i += S::L) {
         auto acc = Op::first(S::load(in + i));
         for (int k = 1; k < M; ++k) acc = Op::absorb(acc, S::load(in + i + k * C));
@@ -261,6 +262,7 @@ void columns(const T* const* rows, T* d, long n)
     const T* r[K];
     for (int k = 0; k < K; ++k) r[k] = rows[k];
     long i = 0;
+#pragma GCC unroll 2
     for (; i + S::L <= n; i += S::L) {
         auto acc = S::load(r[0] + i);
         for (int k = 1; k < K; ++k) acc = Op::absorb(acc, S::load(r[k] + i));
@@ -270,6 +272,27 @@ void columns(const T* const* rows, T* d, long n)
         T acc = r[0][i];
         for (int k = 1; k < K; ++k) acc = Op::absorb(acc, r[k][i]);
         o.one(d, i, acc);
+    }
+}
+
+// Two outputs of a three-row mask from four row results, sharing the middle pair:
+// d0 = extreme(r0, r1, r2), d1 = extreme(r1, r2, r3).
+template <class Op, class T, bool kKeepAlpha>
+void columnsPair3(const T* r0, const T* r1, const T* r2, const T* r3, T* d0, T* d1, long n)
+{
+    using S = Simd<T>;
+    const Out<T, kKeepAlpha> o;
+    long i = 0;
+#pragma GCC unroll 2
+    for (; i + S::L <= n; i += S::L) {
+        const auto mid = Op::absorb(S::load(r1 + i), S::load(r2 + i));
+        o.vec(d0 + i, Op::absorb(mid, S::load(r0 + i)));
+        o.vec(d1 + i, Op::absorb(mid, S::load(r3 + i)));
+    }
+    for (; i < n; ++i) {
+        const T mid = Op::absorb(r1[i], r2[i]);
+        o.one(d0, i, Op::absorb(mid, r0[i]));
+        o.one(d1, i, Op::absorb(mid, r3[i]));
     }
 }
 
