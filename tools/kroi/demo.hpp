@@ -111,6 +111,9 @@ std::span<const DemoEntry> demoEntries();
 // section BORDER
 // end of section BORDER
 // section MINMAX
+Image dilate8u(DemoContext& ctx); // demo_minmax.cpp
+Image erode8u(DemoContext& ctx);
+Image opening8u(DemoContext& ctx);
 // end of section MINMAX
 
 // The built-in inputs (sample.cpp): deterministic, the same on every run.
