@@ -146,7 +146,7 @@ struct Out {
 
 // The widest mask whose row pass doubles; beyond it the block scheme (rowBlocks) is cheaper,
 // so the cost per pixel of the row pass stays bounded whatever the mask.
-constexpr int kDoublingMax = 64;
+constexpr int kDoublingMax = 256;
 
 // Window of M <= 3 pixels, every tap read: the cheapest for the small masks.
 template <class Op, class T, int C, int M, bool kKeepAlpha>

@@ -94,7 +94,7 @@ void checkOrder(KroStatus (*fn)(const T*, int, T*, int, KroiSize, KroiSize, Kroi
         {false, false, false, {4, 4}, {1, 3}, 0x36, true, kroStsOk},
     };
     const int W = 4, H = 4, pad = 3;
-    kt::Guarded<T> src(W + 2 * pad, H + 2 * pad, C), dst(W, H, C, 5);
+    kt::Guarded<T> src(W + 2 * pad, H + 2 * pad, C), dst(W, H, C, 5 * int(sizeof(T)));
     std::memset(src.lowest(), 0, src.spanBytes());
     std::vector<Kro8u> buf(4096);
     for (const Bad& b : table) {
