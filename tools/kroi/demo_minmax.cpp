@@ -18,32 +18,31 @@ std::vector<Kro8u> bufferFor(const Image& s, KroiSize mask)
     return std::vector<Kro8u>(size_t(size));
 }
 
-} // namespace
-
-Image dilate8u(DemoContext& ctx)
+// One filter call on the scene, timed, with its buffer sized by the query first.
+Image filterScene(DemoContext& ctx, const char* name, decltype(&kroiFilterMaxBorder_8u_C3R) fn, KroiSize mask,
+                  KroiBorderMode border)
 {
     const Image& s = ctx.first();
     Image d(s.width, s.height, 3, 8);
-    auto buf = bufferFor(s, {7, 7});
-    ctx.time("kroiFilterMaxBorder_8u_C3R", [&] {
-        return kroiFilterMaxBorder_8u_C3R(s.row<Kro8u>(0), s.step, d.row<Kro8u>(0), d.step, {s.width, s.height},
-                                          {7, 7}, kroBorderReplicate, nullptr, buf.data());
+    auto buf = bufferFor(s, mask);
+    ctx.time(name, [&] {
+        return fn(s.row<Kro8u>(0), s.step, d.row<Kro8u>(0), d.step, {s.width, s.height}, mask, border, nullptr,
+                  buf.data());
     });
     ctx.note = "The program sizes the work buffer with kroiFilterMaxBorderGetBufferSize first.";
     return d;
 }
 
+} // namespace
+
+Image dilate8u(DemoContext& ctx)
+{
+    return filterScene(ctx, "kroiFilterMaxBorder_8u_C3R", kroiFilterMaxBorder_8u_C3R, {7, 7}, kroBorderReplicate);
+}
+
 Image erode8u(DemoContext& ctx)
 {
-    const Image& s = ctx.first();
-    Image d(s.width, s.height, 3, 8);
-    auto buf = bufferFor(s, {15, 3});
-    ctx.time("kroiFilterMinBorder_8u_C3R", [&] {
-        return kroiFilterMinBorder_8u_C3R(s.row<Kro8u>(0), s.step, d.row<Kro8u>(0), d.step, {s.width, s.height},
-                                          {15, 3}, kroBorderMirror, nullptr, buf.data());
-    });
-    ctx.note = "The program sizes the work buffer with kroiFilterMinBorderGetBufferSize first.";
-    return d;
+    return filterScene(ctx, "kroiFilterMinBorder_8u_C3R", kroiFilterMinBorder_8u_C3R, {15, 3}, kroBorderMirror);
 }
 
 Image opening8u(DemoContext& ctx)
