@@ -648,6 +648,124 @@ KroStatus kroiCopyWrapBorder_32f_C1R_L(const Kro32f* pSrc, int64_t srcStep, Kroi
 KroStatus kroiCopyWrapBorder_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize srcRoiSize, KroiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
 KroStatus kroiCopyWrapBorder_32f_C1IR_L(Kro32f* pSrcDst, int64_t srcDstStep, KroiSizeL srcRoiSize, KroiSizeL dstRoiSize, int64_t topBorderHeight, int64_t leftBorderWidth);
 
+
+/* Box filter with border synthesis (kroiFilterBoxBorder) and window sums (kroiSumWindow).
+ *
+ * Output pixel (x, y) is the mean (the sum) of source pixels x-ax .. x-ax+mw-1 and
+ * y-ay .. y-ay+mh-1, ax = (mw-1)>>1, ay = (mh-1)>>1: an even mask reaches one pixel further
+ * right (down) than left (up).  Pixels outside the ROI come from memory on the sides the
+ * border code flags, and from the mode's rule on the others (see the border codes above).
+ * pSrc may equal pDst (in place; dstStep then serves as both steps).
+ *
+ * Buffer: the caller allocates pBuffer with the size returned by
+ * kroiFilterBoxBorderGetBufferSize (kroiSumWindowGetBufferSize) for the same ROI, mask, data
+ * type (of the source: kro8u, kro16u, kro16s, kro32f) and channel count (1, 3 or 4; AC4
+ * images are queried with 4); no alignment is required.  With W, H the ROI, Wb = W+mw-1,
+ * Hb = H+mh-1, e the element size and n the channels, the size is the sum of
+ *   4n(A + D), A = (2mh-2-ay)Wb, B = (2mw-2-ax)Hb, C = B + (Hb if mw = 2),
+ *              D = A + (Wb if mh = 2) + B + C;
+ *   (W+mw+3)*4 for n = 1, (W+mw+3)*16 otherwise;
+ *   W*n*(ay+1)*e + 64, raised to e*Wb*Hb*n unless W-mw+1 > mw and H-mh+1 > mh;
+ *   8(ay+1);
+ * a total above 2^31-1 returns kroStsSizeLimitErr (-232).  Query checks, in order: null
+ * pBufferSize -8; ROI width or height < 1: -6; mask width or height < 1: -33; dataType:
+ * -59; numChannels: -53; size: -232.  The window sums' query is the same function.
+ *
+ * When the ROI is not larger than the mask in both directions (W <= mw or H <= mh) and the
+ * code is not kroBorderInMem, the image (widened by the sides in memory) is first copied
+ * into the buffer with the mode's border copy and filtered from there; the result is the
+ * same as filtering a bordered copy of the image.
+ *
+ * Arithmetic: single precision, one fixed sequence, so results are reproducible bit for bit:
+ *   column sums over the mh window rows start from +0 and add the rows top to bottom; for
+ *   the next output row each becomes sum + (entering - leaving), the difference first;
+ *   the window sum starts from +0 and adds the first mw column sums left to right, then
+ *   moves right as sum + (entering column sum - leaving column sum);
+ *   the mean is sum * r with r = 1.0f / (mw*mh) computed once in single precision;
+ *   8u and 16u: truncate(sum*r + 0.5f); 16s: truncate(sum*r - 0.5f) for a negative sum,
+ *   truncate(sum*r + 0.5f) otherwise (halves away from zero, as far as r is exact);
+ *   32f: sum*r, and a 1 x 1 mask copies the ROI.
+ * Integer sums are exact while they stay below 2^24 (8u up to 65,793 mask pixels).
+ * kroiSumWindow stores the window sum: 8u32s as a 32-bit integer (the single-precision sum,
+ * truncated), the others as a float.  AC4: the fourth channel of pDst is never written, and
+ * pBorderValue holds three values (C1 one, C3 three, C4 four).
+ *
+ * Checks of kroiFilterBoxBorder, in order: a null pSrc, pDst or pBuffer: -8; srcStep or
+ * dstStep < 1: -16; ROI width or height < 1: -6; mask width or height < 1: -33; border code
+ * invalid: -225; constant mode (low nibble 6) with a null pBorderValue: -8.  The members
+ * 8u_C1R, 8u_AC4R, 16u_AC4R and 32f_C1R check in that order; all the others check the
+ * border code first and then the rest in the same order.  Every kroiSumWindow member checks
+ * in the first order.  kroiSumWindow_32f with pSrc == pDst sums in place safely. */
+KroStatus kroiFilterBoxBorderGetBufferSize(KroiSize roiSize, KroiSize maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiFilterBoxBorder_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterBoxBorder_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterBoxBorder_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterBoxBorder_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterBoxBorder_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterBoxBorder_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterBoxBorder_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterBoxBorder_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterBoxBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterBoxBorder_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterBoxBorder_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterBoxBorder_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterBoxBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterBoxBorder_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterBoxBorder_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterBoxBorder_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiSumWindowGetBufferSize(KroiSize roiSize, KroiSize maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiSumWindow_8u32s_C1R(const Kro8u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiSumWindow_8u32s_C3R(const Kro8u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiSumWindow_8u32s_C4R(const Kro8u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiSumWindow_8u32s_AC4R(const Kro8u* pSrc, int srcStep, Kro32s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiSumWindow_16u32f_C1R(const Kro16u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiSumWindow_16u32f_C3R(const Kro16u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiSumWindow_16u32f_C4R(const Kro16u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiSumWindow_16u32f_AC4R(const Kro16u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiSumWindow_16s32f_C1R(const Kro16s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiSumWindow_16s32f_C3R(const Kro16s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiSumWindow_16s32f_C4R(const Kro16s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiSumWindow_16s32f_AC4R(const Kro16s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiSumWindow_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiSumWindow_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiSumWindow_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiSumWindow_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+
+/* One-dimensional window sums, neighbourhood read from memory (no border synthesis): output
+ * x (row form) or row y (column form) is the float sum of maskSize source pixels starting
+ * anchor pixels before it along the row (column).  The row form follows the window-sum
+ * sequence above channel by channel; the column form starts from +0 and adds the rows top
+ * to bottom, then each output row is the row above plus (entering - leaving).  Checks, in
+ * order: a null pointer: -8; maskSize < 1: -33; anchor < 0 or >= maskSize: -34; ROI height
+ * < 1: success, nothing written; ROI width < 1: -6.  Steps are used as given. */
+KroStatus kroiSumWindowRow_8u32f_C1R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int maskSize, int anchor);
+KroStatus kroiSumWindowRow_8u32f_C3R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int maskSize, int anchor);
+KroStatus kroiSumWindowRow_8u32f_C4R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int maskSize, int anchor);
+KroStatus kroiSumWindowRow_16u32f_C1R(const Kro16u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int maskSize, int anchor);
+KroStatus kroiSumWindowRow_16u32f_C3R(const Kro16u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int maskSize, int anchor);
+KroStatus kroiSumWindowRow_16u32f_C4R(const Kro16u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int maskSize, int anchor);
+KroStatus kroiSumWindowRow_16s32f_C1R(const Kro16s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int maskSize, int anchor);
+KroStatus kroiSumWindowRow_16s32f_C3R(const Kro16s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int maskSize, int anchor);
+KroStatus kroiSumWindowRow_16s32f_C4R(const Kro16s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int maskSize, int anchor);
+KroStatus kroiSumWindowColumn_8u32f_C1R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int maskSize, int anchor);
+KroStatus kroiSumWindowColumn_8u32f_C3R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int maskSize, int anchor);
+KroStatus kroiSumWindowColumn_8u32f_C4R(const Kro8u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int maskSize, int anchor);
+KroStatus kroiSumWindowColumn_16u32f_C1R(const Kro16u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int maskSize, int anchor);
+KroStatus kroiSumWindowColumn_16u32f_C3R(const Kro16u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int maskSize, int anchor);
+KroStatus kroiSumWindowColumn_16u32f_C4R(const Kro16u* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int maskSize, int anchor);
+KroStatus kroiSumWindowColumn_16s32f_C1R(const Kro16s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int maskSize, int anchor);
+KroStatus kroiSumWindowColumn_16s32f_C3R(const Kro16s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int maskSize, int anchor);
+KroStatus kroiSumWindowColumn_16s32f_C4R(const Kro16s* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize dstRoiSize, int maskSize, int anchor);
+
+/* kroiFilterBox_64f_C1R: mean over the window (x - anchor.x .. x - anchor.x + mw - 1) x
+ * (y - anchor.y .. y - anchor.y + mh - 1), all read from memory; any anchor, inside the mask
+ * or not, merely moves the window.  Double precision: column sums start from +0 and add the
+ * window's rows top to bottom, then move down as sum + (entering - leaving); the window sum
+ * adds the first mw column sums from +0, then moves right the same way; the mean is
+ * sum * (1.0 / (mw * mh)).  Checks, in order: a null pointer: -8; ROI or mask width or height
+ * < 1: -6; srcStep < (W + mw - 1) * 8 or dstStep < W * 8: -16.  It takes one row of
+ * W + mw - 1 doubles from kroMalloc; if that fails: kroStsNoMemoryErr (-9). */
+KroStatus kroiFilterBox_64f_C1R(const Kro64f* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize dstRoiSize, KroiSize maskSize, KroiPoint anchor);
 /* end of section BORDER */
 
 /* =======================================================================================

@@ -82,6 +82,15 @@ void frameRow(B* d, const B* s, const CopyShape& g, Mode mode, const B* value, b
         P::fill(d, s, g.left);
         P::fill(mid + g.sw * C, s + (g.sw - 1) * C, right);
         break;
+    case Mode::Mirror:
+        if (g.left < g.sw && right < g.sw) { // one reflection: the neighbours in reverse order
+            for (int64_t k = 1; k <= g.left; ++k)
+                for (int c = 0; c < WC; ++c) mid[-k * C + c] = s[k * C + c];
+            for (int64_t k = 1; k <= right; ++k)
+                for (int c = 0; c < WC; ++c) mid[(g.sw - 1 + k) * C + c] = s[(g.sw - 1 - k) * C + c];
+            break;
+        }
+        [[fallthrough]];
     default:
         for (int64_t x = -g.left; x < 0; ++x) P::copy(mid + x * C, s + sourceIndex(mode, x, g.sw) * C, 1);
         for (int64_t x = g.sw; x < g.sw + right; ++x)

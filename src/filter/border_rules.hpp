@@ -139,13 +139,21 @@ struct Rows {
         return reinterpret_cast<const T*>(reinterpret_cast<const char*>(src) + y * step);
     }
 
-    // The row that virtual row y (-top .. height-1+bottom) reads: a row of the image or of
-    // the memory around it, or null when the whole row is the constant.
+    // The ROI row that virtual row y (-top .. height-1+bottom) reads, or -1 when it reads
+    // the memory above or below the ROI (flagged sides) or is a constant row.
+    int64_t roiRow(int64_t y) const
+    {
+        if (y >= 0 && y < height) return y;
+        if ((y < 0 && f.memTop) || (y >= height && f.memBottom)) return -1;
+        return sourceIndex(f.mode, y, height);
+    }
+
+    // The row that virtual row y reads: a row of the image or of the memory around it, or
+    // null when the whole row is the constant.
     const T* row(int64_t y) const
     {
-        if (y >= 0 && y < height) return memRow(y);
         if ((y < 0 && f.memTop) || (y >= height && f.memBottom)) return memRow(y);
-        const int64_t s = sourceIndex(f.mode, y, height);
+        const int64_t s = roiRow(y);
         return s < 0 ? nullptr : memRow(s);
     }
 

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "filter/border_rules.hpp"
+#include "filter/border_stage.hpp"
 #include "kroi.h"
 #include "support/compare.hpp"
 #include "support/random.hpp"
@@ -61,6 +62,42 @@ TEST(BorderRules, FilterModeValidity)
     EXPECT_TRUE(f.memTop && !f.memBottom && !f.memLeft && !f.memRight);
     EXPECT_EQ(f.mode, border::Mode::Constant);
     EXPECT_EQ(f.left, 1); EXPECT_EQ(f.right, 2); EXPECT_EQ(f.top, 2); EXPECT_EQ(f.bottom, 2);
+}
+
+// Row fetching and staging, the pieces a second filter builds on: every widened row and the
+// staged image hold the pixels of the rules, reading memory only on the flagged sides.
+TEST(BorderRules, FetchedRowsAndStagingFollowTheRules)
+{
+    auto rng = kt::rngForTest();
+    const KroiSize mask{5, 4};
+    const int W = 6, H = 3, ax = 2, ay = 1, right = 2, bottom = 2;
+    for (unsigned code : {0x01u, 0x03u, 0x06u, 0x53u, 0xA1u, 0xF6u, 0x96u}) {
+        const auto f = border::frame(code, mask);
+        const int ox = f.memLeft ? ax : 0, oy = f.memTop ? ay : 0;
+        const int iw = W + ox + (f.memRight ? right : 0), ih = H + oy + (f.memBottom ? bottom : 0);
+        kt::Guarded<Kro16u> img(kt::Shape{iw, ih, 3, 0, code & 2 ? kt::Guard::Before : kt::Guard::After});
+        kt::fillRandom(img, rng);
+        const Kro16u value[3] = {11, 22, 33};
+        auto want = [&](int x, int y, int c) -> Kro16u { // over the image widened by its memory
+            const M m = (code & 15) == 1 ? M::Replicate : (code & 15) == 3 ? M::Mirror : M::Constant;
+            const int64_t fx = refIndex(m, x + ox, iw), fy = refIndex(m, y + oy, ih);
+            return (fx < 0 || fy < 0) ? value[c] : img.at(int(fx), int(fy), c);
+        };
+        const border::Rows<Kro16u, 3> rows{&img.at(ox, oy), img.step(), W, H, f, value};
+        std::vector<Kro16u> out(std::size_t(f.widened(W)) * 3);
+        for (int y = -ay; y < H + bottom; ++y) {
+            rows.fetchRow(y, out.data());
+            for (int x = -ax; x < W + right; ++x)
+                for (int c = 0; c < 3; ++c)
+                    ASSERT_EQ(out[std::size_t(x + ax) * 3 + c], want(x, y, c)) << code << " " << x << "," << y;
+        }
+        std::vector<Kro16u> staged(std::size_t(f.widened(W)) * (H + ay + bottom) * 3);
+        const auto s = border::stage<Kro16u, 3>(&img.at(ox, oy), img.step(), {W, H}, f, value, staged.data());
+        for (int y = -ay; y < H + bottom; ++y)
+            for (int x = -ax; x < W + right; ++x)
+                for (int c = 0; c < 3; ++c)
+                    ASSERT_EQ(border::rowAt(s.roi, s.step, y)[x * 3 + c], want(x, y, c)) << code << " staged";
+    }
 }
 
 // ---- the exported copies -----------------------------------------------------------------
@@ -380,9 +417,10 @@ void runCheckOrder()
             if (r.s == nullptr) continue;
             T* p = r.d ? r.d + (r.left * m.C) : nullptr;
             if (p) p = reinterpret_cast<T*>(reinterpret_cast<char*>(p) + std::ptrdiff_t(r.top) * ds);
-            if (r.d == d && r.s == s && r.ss == ss)
+            if (r.d == d && r.s == s && r.ss == ss) {
                 for (const auto* f : {&m.f.ir, &m.f.irl})
                     EXPECT_EQ((*f)(p, r.ds, r.sr, r.dr, r.top, r.left, v), r.want) << m.name << " IR row " << i;
+            }
             EXPECT_TRUE(dst.unchangedSince(before)) << m.name << " row " << i;
         }
         // Equal pointers with a bad srcStep: the in-place hand-over ignores it.

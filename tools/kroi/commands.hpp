@@ -31,6 +31,8 @@ int runPngRoundtrip(const Args& args); // roundtrip.cpp
 // section COMPARE
 // end of section COMPARE
 // section BORDER
+int runBorder(const Args& args); // border.cpp
+int runBox(const Args& args);    // border.cpp
 // end of section BORDER
 // section MINMAX
 int runDilate(const Args& args); // minmax.cpp

@@ -109,6 +109,8 @@ std::span<const DemoEntry> demoEntries();
 // section COMPARE
 // end of section COMPARE
 // section BORDER
+Image demoMirrorBorder(DemoContext& ctx); // demo_border.cpp
+Image demoBox(DemoContext& ctx);          // demo_border.cpp
 // end of section BORDER
 // section MINMAX
 Image dilate8u(DemoContext& ctx); // demo_minmax.cpp

@@ -121,6 +121,11 @@ constexpr DemoEntry kEntries[] = {
     // section COMPARE
     // end of section COMPARE
     // section BORDER
+    {"border-mirror-8u-c3",
+     "kroiCopyMirrorBorder_8u_C3R(src, srcStep, {384, 256}, dst, dstStep, {512, 384}, 96, 64)", demoMirrorBorder},
+    {"box-15x15-8u-c3",
+     "kroiFilterBoxBorder_8u_C3R(src, srcStep, dst, dstStep, {512, 384}, {15, 15}, kroBorderMirror, NULL, buffer)",
+     demoBox},
     // end of section BORDER
     // section MINMAX
     {"dilate-8u-c3-7x7", "kroiFilterMaxBorder_8u_C3R(src, step, dst, step, {512, 384}, {7, 7}, kroBorderReplicate, 0, buf)", dilate8u},

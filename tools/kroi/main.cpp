@@ -44,6 +44,16 @@ constexpr Command kCommands[] = {
     // section COMPARE
     // end of section COMPARE
     // section BORDER
+    {"border",
+     "kroi border IN.png OUT.png [--top T] [--left L] [--bottom B] [--right R]\n"
+     "            [--mode replicate|mirror|wrap|const] [--value V[,V...]]\n"
+     "    frame the image with a border of the given widths (default 0) synthesised by the mode\n"
+     "    (default replicate; const takes --value per channel, default 0)",
+     runBorder},
+    {"box",
+     "kroi box IN.png OUT.png WxH [--border replicate|mirror|const] [--value V[,V...]]\n"
+     "    mean over a W x H window centred on each pixel (box filter); border default replicate",
+     runBox},
     // end of section BORDER
     // section MINMAX
     {"dilate",

@@ -1,0 +1,38 @@
+# `kroi border` and `kroi box`: every mode on 8- and 16-bit images, the output size, and
+# refusals with exit 2 (bad usage) or 1 (an image they cannot take).
+file(REMOVE_RECURSE "${OUT}")
+file(MAKE_DIRECTORY "${OUT}")
+execute_process(COMMAND ${KROI} png-roundtrip "${OUT}" RESULT_VARIABLE rc OUTPUT_QUIET)
+if(NOT rc EQUAL 0)
+  message(FATAL_ERROR "kroi png-roundtrip failed: ${rc}")
+endif()
+
+function(expect want)
+  execute_process(COMMAND ${KROI} ${ARGN} RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
+  if(NOT rc STREQUAL "${want}")
+    message(FATAL_ERROR "kroi ${ARGN}: exit ${rc}, expected ${want}\n${out}\n${err}")
+  endif()
+endfunction()
+
+foreach(in rt-8-1-37 rt-8-3-37 rt-8-4-37 rt-16-1-37 rt-16-3-37 rt-16-4-37)
+  foreach(mode replicate mirror wrap const)
+    expect(0 border "${OUT}/${in}.png" "${OUT}/${in}-${mode}.png" --top 3 --left 40 --bottom 0 --right 5
+           --mode ${mode} --value 7,8,9,10)
+    # Reading the result back through the box filter also proves it is a PNG.
+    expect(0 box "${OUT}/${in}-${mode}.png" "${OUT}/${in}-${mode}-box.png" 5x3)
+  endforeach()
+  foreach(border replicate mirror const)
+    expect(0 box "${OUT}/${in}.png" "${OUT}/${in}-box-${border}.png" 40x30 --border ${border} --value 3)
+  endforeach()
+endforeach()
+file(SIZE "${OUT}/rt-8-3-37-mirror.png" size)
+if(size LESS 100)
+  message(FATAL_ERROR "kroi border wrote a tiny file")
+endif()
+expect(2 border "${OUT}/rt-8-3-37.png")
+expect(2 border "${OUT}/rt-8-3-37.png" "${OUT}/x.png" --mode diagonal)
+expect(2 border "${OUT}/rt-8-3-37.png" "${OUT}/x.png" --top -1)
+expect(2 box "${OUT}/rt-8-3-37.png" "${OUT}/x.png" 0x3)
+expect(2 box "${OUT}/rt-8-3-37.png" "${OUT}/x.png" 3x3 --border wrap)
+expect(1 box "${OUT}/rt-8-2-37.png" "${OUT}/x.png" 3x3)
+expect(1 border "${OUT}/no-such-file.png" "${OUT}/x.png")
