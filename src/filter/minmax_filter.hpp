@@ -23,8 +23,8 @@
 #include <cstddef>
 #include <cstring>
 
-#include "filter/border_copy.hpp"
 #include "filter/border_rules.hpp"
+#include "filter/border_stage.hpp"
 #include "filter/minmax_kernels.hpp"
 #include "frame/check.hpp"
 
@@ -263,25 +263,12 @@ KroStatus filterBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, KroiSiz
         return kroStsOk;
     }
     // Staging: the ROI, widened where a side is in memory, with the mode's border copy into
-    // a bordered image of (W+mw-1) x (H+mh-1) pixels; the filter then reads it with every
-    // side in memory.  The copies move bits, so they run on the unsigned type of the size.
-    using B = std::conditional_t<sizeof(T) == 1, uint8_t, std::conditional_t<sizeof(T) == 2, uint16_t, uint32_t>>;
-    const int64_t left = f.memLeft ? f.left : 0, top = f.memTop ? f.top : 0;
-    border::CopyShape g{};
-    g.sw = W + left + (f.memRight ? f.right : 0);
-    g.sh = H + top + (f.memBottom ? f.bottom : 0);
-    g.dw = int64_t(W) + mw - 1;
-    g.dh = int64_t(H) + mh - 1;
-    g.left = f.left - left;
-    g.top = f.top - top;
-    const std::ptrdiff_t stageStep = std::ptrdiff_t(g.dw) * C * sizeof(T);
-    const B* from = reinterpret_cast<const B*>(rowAt(pSrc, srcStep, -top) - left * C);
-    border::copyBorder<B, C, C>(from, srcStep, reinterpret_cast<B*>(base), stageStep, g, f.mode,
-                                reinterpret_cast<const B*>(value));
+    // a bordered image of (W+mw-1) x (H+mh-1) pixels at the start of area S; the filter then
+    // reads it with every side in memory.
+    const border::Staged<T> st = border::stage<T, C>(pSrc, srcStep, roi, f, value, reinterpret_cast<T*>(base));
     border::Frame inMem = f;
     inMem.memLeft = inMem.memRight = inMem.memTop = inMem.memBottom = true;
-    const T* staged = rowAt(reinterpret_cast<const T*>(base), stageStep, f.top) + f.left * C;
-    border::Rows<T, C> stagedRows{staged, stageStep, W, H, inMem, value};
+    border::Rows<T, C> stagedRows{st.roi, st.step, W, H, inMem, value};
     run<Op, T, C, kAlpha>(stagedRows, true, pDst, dstStep, mask, base, ring, slotBytes);
     return kroStsOk;
 }
