@@ -124,13 +124,20 @@ void run(const border::Rows<T, C>& rows, bool staged, T* dst, std::ptrdiff_t dst
         for (int64_t x = in1; x < x0 + count; ++x)
             std::memcpy(temp + (x - x0) * C, rows.outside(r, r, x), sizeof(T) * C);
     };
+    // The outputs at the ends of a row, whose windows reach past a side.
+    auto edges = [&](const T* r, T* out, RowKernel<T> kernel) {
+        if (f.left > 0) {
+            piece(r, -f.left, f.left + mw - 1);
+            kernel(temp, temp, out, f.left, mw);
+        }
+        if (f.right > 0) {
+            piece(r, W - f.right - f.left, f.right + mw - 1);
+            kernel(temp, temp, out + (W - f.right) * C, f.right, mw);
+        }
+    };
     // Row result of virtual row y into `out`.
     auto rowPass = [&](int64_t y, T* out, RowKernel<T> kernel) {
         const T* r = rows.row(y);
-        if (y + 1 < H) { // the next row, on its way to the cache while this one is filtered
-            const char* next = reinterpret_cast<const char*>(rows.memRow(y + 1));
-            for (std::size_t o = 0; o < std::size_t(W) * C * sizeof(T); o += 64) _mm_prefetch(next + o, _MM_HINT_T0);
-        }
         if (r && !fetch) {
             const T* in = r - f.left * C;
             kernel(in, staged ? const_cast<T*>(in) : temp, out, W, mw);
@@ -138,14 +145,7 @@ void run(const border::Rows<T, C>& rows, bool staged, T* dst, std::ptrdiff_t dst
             // The inner outputs read the row in place; the few at each end, whose windows
             // reach past the side, read short pieces of the widened row.
             kernel(r, temp, out + f.left * C, W - mw + 1, mw);
-            if (f.left > 0) {
-                piece(r, -f.left, f.left + mw - 1);
-                kernel(temp, temp, out, f.left, mw);
-            }
-            if (f.right > 0) {
-                piece(r, W - f.right - f.left, f.right + mw - 1);
-                kernel(temp, temp, out + (W - f.right) * C, f.right, mw);
-            }
+            edges(r, out, kernel);
         } else {
             rows.fetchRow(r, r, temp);
             kernel(temp, temp, out, W, mw);
@@ -172,8 +172,31 @@ void run(const border::Rows<T, C>& rows, bool staged, T* dst, std::ptrdiff_t dst
         auto upTo = [&](int64_t last) {
             for (; made <= last; ++made) rowPass(made - f.top, R(made), k);
         };
+        using Fused = void (*)(const T*, const T*, const T*, const T*, T*, T*, T*, T*, long);
+        const Fused fused = mw == 1 ? rowsAndPair3<Op, T, C, 1, kAlpha>
+                          : mw == 2 ? rowsAndPair3<Op, T, C, 2, kAlpha> : rowsAndPair3<Op, T, C, 3, kAlpha>;
         for (int64_t y = 0; y < H; y += 2) {
-            if (y + 1 < H) {
+            const T* ra = y + 1 < H && made == y + 2 && mw <= 3 ? rows.row(y + 2 - f.top) : nullptr;
+            const T* rb = ra ? rows.row(y + 3 - f.top) : nullptr;
+            if (rb && (!fetch || W >= mw)) {
+                // Both new rows straight from memory: their row results and the pair of
+                // outputs in one pass over the inner part, the ends as usual.
+                const long x0 = fetch ? f.left : 0, inner = fetch ? W - mw + 1 : W;
+                if (fetch) {
+                    edges(ra, R(y + 2), k);
+                    edges(rb, R(y + 3), k);
+                }
+                const long o = x0 * C;
+                fused(ra - (f.left - x0) * C, rb - (f.left - x0) * C, R(y) + o, R(y + 1) + o, R(y + 2) + o,
+                      R(y + 3) + o, dstRow(y) + o, dstRow(y + 1) + o, inner * C);
+                if (fetch) {
+                    columnsPair3<Op, T, kAlpha>(R(y), R(y + 1), R(y + 2), R(y + 3), dstRow(y), dstRow(y + 1), o);
+                    const long e = (W - f.right) * C;
+                    columnsPair3<Op, T, kAlpha>(R(y) + e, R(y + 1) + e, R(y + 2) + e, R(y + 3) + e, dstRow(y) + e,
+                                                dstRow(y + 1) + e, n - e);
+                }
+                made = y + 4;
+            } else if (y + 1 < H) {
                 upTo(y + 3);
                 columnsPair3<Op, T, kAlpha>(R(y), R(y + 1), R(y + 2), R(y + 3), dstRow(y), dstRow(y + 1), n);
             } else {

@@ -296,6 +296,42 @@ void columnsPair3(const T* r0, const T* r1, const T* r2, const T* r3, T* d0, T* 
     }
 }
 
+// Two new rows and a pair of outputs of a three-row mask in one pass, for row windows of
+// M <= 3 pixels: ra, rb = the row results of the widened rows ina, inb (kept for the next
+// pair), d0 = extreme(r0, r1, ra), d1 = extreme(r1, ra, rb).  The same values as rowDirect
+// followed by columnsPair3, without reading ra and rb back.
+template <class Op, class T, int C, int M, bool kKeepAlpha>
+void rowsAndPair3(const T* ina, const T* inb, const T* r0, const T* r1, T* ra, T* rb, T* d0, T* d1, long n)
+{
+    using S = Simd<T>;
+    const Out<T, kKeepAlpha> o;
+    long i = 0;
+    for (; i + S::L <= n; i += S::L) {
+        auto a = Op::first(S::load(ina + i)), b = Op::first(S::load(inb + i));
+        for (int k = 1; k < M; ++k) {
+            a = Op::absorb(a, S::load(ina + i + k * C));
+            b = Op::absorb(b, S::load(inb + i + k * C));
+        }
+        S::store(ra + i, a);
+        S::store(rb + i, b);
+        const auto mid = Op::absorb(S::load(r1 + i), a);
+        o.vec(d0 + i, Op::absorb(mid, S::load(r0 + i)));
+        o.vec(d1 + i, Op::absorb(mid, b));
+    }
+    for (; i < n; ++i) {
+        T a = Op::first(ina[i]), b = Op::first(inb[i]);
+        for (int k = 1; k < M; ++k) {
+            a = Op::absorb(a, ina[i + k * C]);
+            b = Op::absorb(b, inb[i + k * C]);
+        }
+        ra[i] = a;
+        rb[i] = b;
+        const T mid = Op::absorb(r1[i], a);
+        o.one(d0, i, Op::absorb(mid, r0[i]));
+        o.one(d1, i, Op::absorb(mid, b));
+    }
+}
+
 // One step of the vertical block scheme: the running prefix p absorbs the new row r (or
 // starts from it), and d = the extreme of the old block's suffix s and the prefix.
 template <class Op, class T, bool kKeepAlpha>
