@@ -783,7 +783,8 @@ KroStatus kroiFilterBox_64f_C1R(const Kro64f* pSrc, int srcStep, Kro64f* pDst, i
  * mask is at least as wide or as high as the ROI, the ROI (widened where a side is in
  * memory) is first staged into the buffer with the mode's border copy; otherwise the border
  * is synthesised while streaming.  The result is exactly the extreme over the window for
- * every mask size; the cost per pixel does not grow with the mask.  A 1 x 1 mask copies the
+ * every mask size, and the cost per pixel is bounded whatever the mask (rows by spans that
+ * double up to 256 pixels, then by blocks; columns by blocks).  A 1 x 1 mask copies the
  * ROI.  pBorderValue points at one value per channel (three for AC4) and is read only in the
  * constant mode.  AC4: the fourth channel of the destination is never written.
  *
@@ -813,74 +814,40 @@ KroStatus kroiFilterBox_64f_C1R(const Kro64f* pSrc, int srcStep, Kro64f* pDst, i
  * width or height < 1: -33; border code above 255, or not 0xF0 with a low nibble other than
  * 1, 3, 6: kroStsBadBorderErr (-225); then, only when the constant mode synthesises some
  * side, a null pBorderValue: -8.  Steps are not checked; they are used as given. */
-KroStatus kroiFilterMaxBorderGetBufferSize(KroiSize roiSize, KroiSize maskSize, KroDataType dataType,
-                                           int numChannels, int* pBufferSize);
-KroStatus kroiFilterMinBorderGetBufferSize(KroiSize roiSize, KroiSize maskSize, KroDataType dataType,
-                                           int numChannels, int* pBufferSize);
-KroStatus kroiFilterMaxBorder_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMaxBorder_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMaxBorder_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMaxBorder_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMaxBorder_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMaxBorder_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMaxBorder_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMaxBorder_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMaxBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMaxBorder_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMaxBorder_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMaxBorder_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMaxBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMaxBorder_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMaxBorder_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMaxBorder_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMinBorder_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMinBorder_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMinBorder_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMinBorder_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMinBorder_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMinBorder_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMinBorder_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMinBorder_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMinBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMinBorder_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMinBorder_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMinBorder_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMinBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMinBorder_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMinBorder_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
-KroStatus kroiFilterMinBorder_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize,
-    KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorderGetBufferSize(KroiSize roiSize, KroiSize maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiFilterMinBorderGetBufferSize(KroiSize roiSize, KroiSize maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiFilterMaxBorder_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
 
 /* kroiDilate3x3_64f_C1R / kroiErode3x3_64f_C1R: the maximum (minimum) of the 3 x 3
  * neighbourhood, read from memory: pSrc is the first ROI pixel, and the row above, the row

@@ -5,7 +5,9 @@
 // The filter is separable.  Every virtual row -ay .. H-1+bottom of the bordered image gets a
 // row result (the extreme over mw adjacent pixels, row kernels of minmax_kernels.hpp), and
 // each output row is the extreme of mh consecutive row results.  Small masks combine the mh
-// rows directly from a ring of row results; taller ones run the block scheme down the
+// rows directly from a ring of row results (three-row masks make output rows in pairs that
+// share their middle rows, and with short row windows make the two new row results in the
+// same pass); taller ones run the block scheme down the
 // columns: the ring then holds the suffix extremes of the last full block of mh rows while
 // the next block's rows replace them one by one, and a running prefix of the new block
 // completes each window.  Either way the cost per pixel is bounded whatever the mask.
@@ -96,17 +98,14 @@ RowKernel<T> rowKernel(int mw)
 // Masks up to this height combine their rows directly; taller ones use the block scheme.
 constexpr int kDirectRowsMax = 4;
 
-template <class T>
-inline T* rowAt(T* p, std::ptrdiff_t step, int64_t y)
-{
-    return border::rowAt(p, step, y);
-}
+using border::rowAt;
 
 // The filter proper, on an image whose border code has been decoded and adjusted.  `rows`
 // reads the virtual rows; `staged` says they live in the buffer (the staged image), so the
 // row kernels may work in them in place and the first one is free once read.
 template <class Op, class T, int C, bool kAlpha>
-void run(const border::Rows<T, C>& rows, bool staged, T* dst, std::ptrdiff_t dstStep, KroiSize mask, char* area, char* ring, std::size_t slotBytes)
+void run(const border::Rows<T, C>& rows, bool staged, T* dst, std::ptrdiff_t dstStep, KroiSize mask, char* area,
+         char* ring, std::size_t slotBytes)
 {
     const border::Frame& f = rows.f;
     const long W = rows.width;
