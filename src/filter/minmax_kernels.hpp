@@ -198,9 +198,12 @@ void quads(const T* a, T* d, long n, long s)
     }
 }
 
+template <class Op, class T, bool kKeepAlpha, int K>
+void columns(const T* const* rows, T* d, long n);
+
 // Window of 4..kDoublingMax pixels by growing spans: after a pass, work[i] is the extreme of
-// s consecutive pixels from i, s growing fourfold while it can (then twofold); the last pass
-// combines two overlapping spans s and m - s with s >= m/2.  Each pass runs in place in
+// s consecutive pixels from i, s growing fourfold while 4s fits the window; the last pass
+// combines two to four spans of s (at 0, s, 2s and m - s) that cover it.  Each pass runs in place in
 // `work` (a forward pass reads i + k*s*C after writing i, never before), so `work` needs
 // W+m-4 pixels and may be `in` itself.
 template <class Op, class T, int C, bool kKeepAlpha>
@@ -213,12 +216,18 @@ void rowDoubling(const T* in, T* work, T* out, long width, int m)
         len -= 3 * s * C;
         quads<Op, T, false>(work, work, len, s * C);
     }
-    if (2 * s <= m) {
-        len -= s * C;
-        pairs<Op>(work, work + s * C, work, len, Out<T, false>{});
-        s *= 2;
+    // The last pass covers the window with two to four spans of s pixels.
+    const T* span[4] = {work, work + s * C, work + 2 * s * C, work + (m - s) * C};
+    const long n = width * C;
+    if (m <= 2 * s) {
+        span[1] = span[3];
+        columns<Op, T, kKeepAlpha, 2>(span, out, n);
+    } else if (m <= 3 * s) {
+        span[2] = span[3];
+        columns<Op, T, kKeepAlpha, 3>(span, out, n);
+    } else {
+        columns<Op, T, kKeepAlpha, 4>(span, out, n);
     }
-    pairs<Op>(work, work + (m - s) * C, out, width * C, Out<T, kKeepAlpha>{});
 }
 
 // Any window, in blocks of m pixels (the van Herk / Gil-Werman scheme): the extreme of the

@@ -171,7 +171,7 @@ void sweepMasks(kt::Rng& rng)
     // Odd, even, 1xN, Nx1, direct, doubling and block row passes, direct and block column
     // passes, and masks larger than the image (staged).
     const KroiSize masks[] = {{1, 1}, {2, 2}, {3, 3}, {1, 3}, {2, 3}, {1, 5}, {5, 1}, {4, 3}, {6, 5}, {9, 2}, {2, 9},
-                              {3, 12}, {17, 7}, {21, 1}, {1, 21}, {66, 6}, {40, 15}};
+                              {3, 12}, {15, 2}, {17, 7}, {21, 1}, {1, 21}, {66, 6}, {40, 15}, {55, 3}};
     const KroiBorderMode codes[] = {kroBorderReplicate, kroBorderMirror, kroBorderConstant};
     for (const auto& m : members<T>())
         for (const KroiSize mk : masks)
