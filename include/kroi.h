@@ -2415,6 +2415,91 @@ KroStatus kroiFilterBox_64f_C1R(const Kro64f* pSrc, int srcStep, Kro64f* pDst, i
  * Min/max filters
  * ======================================================================================= */
 /* section MINMAX */
+/* Min/max filters (grey-level dilation and erosion with a rectangular mask).
+ * kroiFilterMaxBorder replaces each pixel by the maximum of its maskSize neighbourhood,
+ * kroiFilterMinBorder by the minimum.  The anchor is the mask centre, ax = (mw-1)>>1,
+ * ay = (mh-1)>>1: output (x, y) reads source columns x-ax .. x-ax+mw-1 and rows
+ * y-ay .. y-ay+mh-1, so an even mask reaches one pixel further right (down) than left (up).
+ * Pixels outside the ROI come from the border code (see the border codes above): a side the
+ * mask does not reach past (ax = 0 on the left, mw-1-ax = 0 on the right, likewise rows) is
+ * treated as in memory whatever the flags say.  When something must be synthesised and the
+ * mask is at least as wide or as high as the ROI, the ROI (widened where a side is in
+ * memory) is first staged into the buffer with the mode's border copy; otherwise the border
+ * is synthesised while streaming.  The result is exactly the extreme over the window for
+ * every mask size, and the cost per pixel is bounded whatever the mask (rows by spans that
+ * double up to 256 pixels, then by blocks; columns by blocks).  A 1 x 1 mask copies the
+ * ROI.  pBorderValue points at one value per channel (three for AC4) and is read only in the
+ * constant mode.  AC4: the fourth channel of the destination is never written.
+ *
+ * 32f (and the 64f 3x3 forms): NaN never wins.  The max filter counts a NaN as -infinity and
+ * the min filter as +infinity, so a window with numbers gives the extreme of its numbers and
+ * a window of NaNs only gives -inf (max) or +inf (min).  A 1 x 1 mask copies NaNs as they
+ * are.  +0 and -0 compare equal; a window whose extreme is a zero may give either sign.
+ *
+ * The work buffer is the caller's, of the size kroiFilterMaxBorderGetBufferSize returns
+ * (kroiFilterMinBorderGetBufferSize is the same query); no alignment is needed.  Two calls may
+ * run at once with buffers of their own.  The source and destination must not overlap:
+ * filtering in place is not supported (the result is then unspecified, though nothing
+ * outside the destination ROI and the buffer is written).
+ *
+ * Buffer size (roiSize W x H, maskSize mw x mh, dataType 1, 5, 7 or 13 with element size e
+ * of 1, 2, 2, 4 bytes, numChannels n of 1, 3 or 4), in unsigned 32-bit arithmetic:
+ *   if mw < W and mh < H: S = (W+mw-1)*(2*mh-ay-2), or 0 when mh-ay-1 < 1; then, when
+ *     mw-ax-1 > 0, S = max(S, (H+mh-1)*(2*mw-ax-2)) compared as signed values;
+ *   otherwise S = (W+mw-1)*(H+mh-1);
+ *   total = align32(n*S*e) + align32(mw*n*e) + mh*align32(W*n*e) + 32, plus 64 for 32f,
+ *   where align32 rounds up to a multiple of 32.  No overflow test is made: sizes whose
+ *   total would pass 2^31-1 are the caller's to avoid.
+ * Query checks, in order: null pBufferSize -8; ROI width or height < 1: -6; mask width or
+ * height < 1: kroStsBadMaskErr (-33); numChannels not 1, 3, 4: kroStsBadChannelCountErr
+ * (-53); dataType not 1, 5, 7, 13: kroStsBadDataTypeErr (-59).
+ * Filter checks, in order: null pSrc, pDst or pBuffer: -8; ROI width or height < 1: -6; mask
+ * width or height < 1: -33; border code above 255, or not 0xF0 with a low nibble other than
+ * 1, 3, 6: kroStsBadBorderErr (-225); then, only when the constant mode synthesises some
+ * side, a null pBorderValue: -8.  Steps are not checked; they are used as given. */
+KroStatus kroiFilterMaxBorderGetBufferSize(KroiSize roiSize, KroiSize maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiFilterMinBorderGetBufferSize(KroiSize roiSize, KroiSize maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiFilterMaxBorder_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMaxBorder_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMinBorder_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+
+/* kroiDilate3x3_64f_C1R / kroiErode3x3_64f_C1R: the maximum (minimum) of the 3 x 3
+ * neighbourhood, read from memory: pSrc is the first ROI pixel, and the row above, the row
+ * below and one column on each side must be readable.  NaN as for the filters above.
+ * Checks, in order: null pSrc or pDst -8; srcStep or dstStep < 1: -16; ROI width < 1, then
+ * height < 1: -6; srcStep < roiWidth*8 + 16 or dstStep < roiWidth*8: kroStsShortStepErr
+ * (-37). */
+KroStatus kroiDilate3x3_64f_C1R(const Kro64f* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiErode3x3_64f_C1R(const Kro64f* pSrc, int srcStep, Kro64f* pDst, int dstStep, KroiSize roiSize);
 
 /* end of section MINMAX */
 

@@ -53,6 +53,8 @@ int runBorder(const Args& args); // border.cpp
 int runBox(const Args& args);    // border.cpp
 // end of section BORDER
 // section MINMAX
+int runDilate(const Args& args); // minmax.cpp
+int runErode(const Args& args);  // minmax.cpp
 // end of section MINMAX
 
 // One line of library identification ("kroIP SSE3 (t3) 2026.0.0 (r0x00000001), Nov 2 2026").

@@ -135,6 +135,9 @@ Image demoMirrorBorder(DemoContext& ctx); // demo_border.cpp
 Image demoBox(DemoContext& ctx);          // demo_border.cpp
 // end of section BORDER
 // section MINMAX
+Image dilate8u(DemoContext& ctx); // demo_minmax.cpp
+Image erode8u(DemoContext& ctx);
+Image opening8u(DemoContext& ctx);
 // end of section MINMAX
 
 // The built-in inputs (sample.cpp): deterministic, the same on every run.

@@ -156,6 +156,9 @@ constexpr DemoEntry kEntries[] = {
      demoBox},
     // end of section BORDER
     // section MINMAX
+    {"dilate-8u-c3-7x7", "kroiFilterMaxBorder_8u_C3R(src, step, dst, step, {512, 384}, {7, 7}, kroBorderReplicate, 0, buf)", dilate8u},
+    {"erode-8u-c3-15x3", "kroiFilterMinBorder_8u_C3R(src, step, dst, step, {512, 384}, {15, 3}, kroBorderMirror, 0, buf)", erode8u},
+    {"opening-8u-c3-31x31", "kroiFilterMinBorder_8u_C3R(src, ..., tmp, ..., {31, 31}, kroBorderReplicate, 0, buf); kroiFilterMaxBorder_8u_C3R(tmp, ..., dst, ..., {31, 31}, ...)", opening8u},
     // end of section MINMAX
 };
 

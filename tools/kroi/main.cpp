@@ -101,6 +101,14 @@ constexpr Command kCommands[] = {
      runBox},
     // end of section BORDER
     // section MINMAX
+    {"dilate",
+     "kroi dilate IN.png OUT.png WxH [--border replicate|mirror|constant[=V]]\n"
+     "    maximum over a W x H rectangle (8/16-bit gray, RGB, RGBA; alpha kept)",
+     runDilate},
+    {"erode",
+     "kroi erode IN.png OUT.png WxH [--border replicate|mirror|constant[=V]]\n"
+     "    minimum over a W x H rectangle (8/16-bit gray, RGB, RGBA; alpha kept)",
+     runErode},
     // end of section MINMAX
     {"png-roundtrip", nullptr, runPngRoundtrip},
 };

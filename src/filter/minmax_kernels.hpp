@@ -1,0 +1,392 @@
+// Kernels of the min/max (morphological) filters: the operation (larger or smaller of two
+// values), the row kernels that take the extreme over m horizontally adjacent pixels, and the
+// column kernels that combine row results vertically.  Nothing here checks arguments.
+//
+// Arrays are element arrays: a row of W pixels of C elements is W*C elements, and the window
+// of output element i is input elements i, i+C, ..., i+(m-1)*C.  An input row is the widened
+// row (W+m-1 pixels, starting at the leftmost pixel the first window reads).
+//
+// NaN (32f, 64f): a NaN never wins.  The max filter treats it as -infinity and the min filter
+// as +infinity, so a window holding numbers and NaNs gives the extreme of its numbers, and a
+// window of NaNs only gives -inf (max) or +inf (min).  The first pass over the source (the
+// row kernels) removes NaNs this way, so the column kernels only ever see numbers.  +0 and -0
+// compare equal; which of them a window of zeros yields depends on the window's order.
+#pragma once
+
+#include <emmintrin.h>
+
+#include <cstddef>
+#include <cstring>
+#include <limits>
+
+#include "frame/base.hpp"
+
+namespace KROI_TIER::filter::minmax {
+
+// ---- 128-bit vectors of each element type (SSE2) -----------------------------------------
+
+template <class T>
+struct Simd;
+
+template <class T>
+struct SimdInt {
+    using R = __m128i;
+    static constexpr long L = 16 / sizeof(T);
+    static R load(const T* p) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p)); }
+    static void store(T* p, R v) { _mm_storeu_si128(reinterpret_cast<__m128i*>(p), v); }
+    // v with the lanes of `mask` taken from `old`.
+    static R keep(R v, R old, R mask) { return _mm_or_si128(_mm_andnot_si128(mask, v), _mm_and_si128(mask, old)); }
+    // The lanes of every fourth element.
+    static R alphaMask()
+    {
+        if constexpr (sizeof(T) == 1) return _mm_set1_epi32(int(0xFF000000u));
+        else return _mm_set1_epi64x(int64_t(0xFFFF000000000000ull));
+    }
+};
+template <>
+struct Simd<Kro8u> : SimdInt<Kro8u> {};
+template <>
+struct Simd<Kro16u> : SimdInt<Kro16u> {};
+template <>
+struct Simd<Kro16s> : SimdInt<Kro16s> {};
+template <>
+struct Simd<Kro32f> {
+    using R = __m128;
+    static constexpr long L = 4;
+    static R load(const Kro32f* p) { return _mm_loadu_ps(p); }
+    static void store(Kro32f* p, R v) { _mm_storeu_ps(p, v); }
+    static R alphaMask() { return _mm_castsi128_ps(_mm_set_epi32(-1, 0, 0, 0)); }
+    static R keep(R v, R old, R mask) { return _mm_or_ps(_mm_andnot_ps(mask, v), _mm_and_ps(mask, old)); }
+};
+template <>
+struct Simd<Kro64f> {
+    using R = __m128d;
+    static constexpr long L = 2;
+    static R load(const Kro64f* p) { return _mm_loadu_pd(p); }
+    static void store(Kro64f* p, R v) { _mm_storeu_pd(p, v); }
+};
+
+// ---- the operation ------------------------------------------------------------------------
+
+// The larger (kMax) or smaller of two values.  absorb(acc, v) is the window's accumulator
+// taking one more value; the scalar body is the definition and the vector body gives the
+// same bits.  For floats it is `v > acc ? v : acc` (`v < acc ? v : acc`), which is exactly
+// what maxps(v, acc) (minps) computes: a NaN v leaves acc as it was.  first(v) starts a
+// window: a NaN becomes the value that never wins, so no accumulator is ever NaN.
+template <class T, bool kMax>
+struct Extreme {
+    using S = Simd<T>;
+    using R = typename S::R;
+    static constexpr bool kFloat = std::is_floating_point_v<T>;
+
+    static T neutral()
+    {
+        using N = std::numeric_limits<T>;
+        if constexpr (kFloat) return kMax ? -N::infinity() : N::infinity();
+        else return kMax ? N::lowest() : N::max();
+    }
+    static T absorb(T acc, T v)
+    {
+        if constexpr (kMax) return v > acc ? v : acc;
+        else return v < acc ? v : acc;
+    }
+    static T first(T v)
+    {
+        if constexpr (kFloat) return absorb(neutral(), v);
+        else return v;
+    }
+
+    static R absorb(R acc, R v)
+    {
+        if constexpr (std::is_same_v<T, Kro8u>) return kMax ? _mm_max_epu8(acc, v) : _mm_min_epu8(acc, v);
+        else if constexpr (std::is_same_v<T, Kro16s>) return kMax ? _mm_max_epi16(acc, v) : _mm_min_epi16(acc, v);
+        else if constexpr (std::is_same_v<T, Kro16u>) {
+            // SSE2 has no unsigned 16-bit max/min: a - b saturated at 0 is the excess of a
+            // over b, so b + excess is the max and a - excess the min.
+            const __m128i excess = _mm_subs_epu16(v, acc);
+            return kMax ? _mm_add_epi16(acc, excess) : _mm_sub_epi16(v, excess);
+        }
+        else if constexpr (std::is_same_v<T, Kro32f>) return kMax ? _mm_max_ps(v, acc) : _mm_min_ps(v, acc);
+        else return kMax ? _mm_max_pd(v, acc) : _mm_min_pd(v, acc);
+    }
+    static R first(R v)
+    {
+        if constexpr (std::is_same_v<T, Kro32f>) return absorb(_mm_set1_ps(neutral()), v);
+        else if constexpr (std::is_same_v<T, Kro64f>) return absorb(_mm_set1_pd(neutral()), v);
+        else return v;
+    }
+};
+
+// ---- stores into the destination -----------------------------------------------------------
+
+// How results reach their row.  Plain: every element.  KeepAlpha (AC4): the fourth element
+// of every pixel keeps what the row held, restored from it before each vector store; vector
+// stores start on pixel boundaries (lane counts are multiples of 4), so the mask is fixed.
+template <class T, bool kKeepAlpha>
+struct Out {
+    using S = Simd<T>;
+    using R = typename S::R;
+    R mask;
+    Out()
+    {
+        if constexpr (kKeepAlpha) mask = S::alphaMask();
+    }
+    void vec(T* d, R v) const
+    {
+        if constexpr (kKeepAlpha) v = S::keep(v, S::load(d), mask);
+        S::store(d, v);
+    }
+    static void one(T* d, long i, T v)
+    {
+        if (!kKeepAlpha || (i & 3) != 3) d[i] = v;
+    }
+};
+
+// ---- row kernels ---------------------------------------------------------------------------
+
+// The widest mask whose row pass doubles; beyond it the block scheme (rowBlocks) is cheaper,
+// so the cost per pixel of the row pass stays bounded whatever the mask.
+constexpr int kDoublingMax = 256;
+
+// Window of M <= 3 pixels, every tap read: the cheapest for the small masks.
+template <class Op, class T, int C, int M, bool kKeepAlpha>
+void rowDirect(const T* in, T*, T* out, long width, int)
+{
+    using S = Simd<T>;
+    const Out<T, kKeepAlpha> o;
+    const long n = width * C;
+    long i = 0;
+#pragma GCC unroll 2
+    for (; i + S::L <= n; i += S::L) {
+        auto acc = Op::first(S::load(in + i));
+        for (int k = 1; k < M; ++k) acc = Op::absorb(acc, S::load(in + i + k * C));
+        o.vec(out + i, acc);
+    }
+    for (; i < n; ++i) {
+        T acc = Op::first(in[i]);
+        for (int k = 1; k < M; ++k) acc = Op::absorb(acc, in[i + k * C]);
+        o.one(out, i, acc);
+    }
+}
+
+// a[i] absorbs b[i] into d[i], i < n; d may be a.
+template <class Op, class T, class O>
+inline void pairs(const T* a, const T* b, T* d, long n, const O& o)
+{
+    using S = Simd<T>;
+    long i = 0;
+    for (; i + S::L <= n; i += S::L) o.vec(d + i, Op::absorb(S::load(a + i), S::load(b + i)));
+    for (; i < n; ++i) o.one(d, i, Op::absorb(a[i], b[i]));
+}
+
+// d[i] = the extreme of a[i], a[i+s], a[i+2s], a[i+3s] (s in elements), i < n; d may be a.
+// kFirst: `a` is a source row, whose NaNs are removed here.
+template <class Op, class T, bool kFirst>
+void quads(const T* a, T* d, long n, long s)
+{
+    using S = Simd<T>;
+    long i = 0;
+    for (; i + S::L <= n; i += S::L) {
+        auto v = S::load(a + i);
+        if constexpr (kFirst) v = Op::first(v);
+        v = Op::absorb(Op::absorb(Op::absorb(v, S::load(a + i + s)), S::load(a + i + 2 * s)), S::load(a + i + 3 * s));
+        S::store(d + i, v);
+    }
+    for (; i < n; ++i) {
+        T v = kFirst ? Op::first(a[i]) : a[i];
+        d[i] = Op::absorb(Op::absorb(Op::absorb(v, a[i + s]), a[i + 2 * s]), a[i + 3 * s]);
+    }
+}
+
+template <class Op, class T, bool kKeepAlpha, int K>
+void columns(const T* const* rows, T* d, long n);
+
+// Window of 4..kDoublingMax pixels by growing spans: after a pass, work[i] is the extreme of
+// s consecutive pixels from i, s growing fourfold while 4s fits the window; the last pass
+// combines two to four spans of s (at 0, s, 2s and m - s) that cover it.  Each pass runs in place in
+// `work` (a forward pass reads i + k*s*C after writing i, never before), so `work` needs
+// W+m-4 pixels and may be `in` itself.
+template <class Op, class T, int C, bool kKeepAlpha>
+void rowDoubling(const T* in, T* work, T* out, long width, int m)
+{
+    long len = (width + m - 4) * C; // valid elements after the first pass
+    quads<Op, T, true>(in, work, len, C);
+    long s = 4;
+    for (; 4 * s <= m; s *= 4) {
+        len -= 3 * s * C;
+        quads<Op, T, false>(work, work, len, s * C);
+    }
+    // The last pass covers the window with two to four spans of s pixels.
+    const T* span[4] = {work, work + s * C, work + 2 * s * C, work + (m - s) * C};
+    const long n = width * C;
+    if (m <= 2 * s) {
+        span[1] = span[3];
+        columns<Op, T, kKeepAlpha, 2>(span, out, n);
+    } else if (m <= 3 * s) {
+        span[2] = span[3];
+        columns<Op, T, kKeepAlpha, 3>(span, out, n);
+    } else {
+        columns<Op, T, kKeepAlpha, 4>(span, out, n);
+    }
+}
+
+// Any window, in blocks of m pixels (the van Herk / Gil-Werman scheme): the extreme of the
+// window starting at x is that of the suffix of x's block from x and the prefix of the next
+// block up to x+m-1, so three operations per element whatever m.  The suffixes go to `out`
+// first, then the prefixes are run forward and combined into it.  Scalar: each step depends
+// on the one before.  AC4 rows skip the fourth element, which nothing reads.
+template <class Op, class T, int C, bool kKeepAlpha, bool kAlpha>
+void rowBlocks(const T* in, T*, T* out, long width, int m)
+{
+    constexpr int WC = kAlpha ? 3 : C;
+    const long total = width + m - 1;
+    for (int c = 0; c < WC; ++c) {
+        for (long b = 0; b < width; b += m) {
+            T acc = Op::neutral();
+            for (long x = b + m - 1; x >= b; --x) {
+                acc = Op::absorb(acc, in[x * C + c]);
+                if (x < width) out[x * C + c] = acc;
+            }
+        }
+        T acc = Op::neutral();
+        long inBlock = 0;
+        for (long j = 0; j < total; ++j) {
+            const T v = in[j * C + c];
+            acc = inBlock == 0 ? Op::first(v) : Op::absorb(acc, v);
+            if (++inBlock == m) inBlock = 0;
+            const long x = j - (m - 1);
+            if (x >= 0) out[x * C + c] = Op::absorb(out[x * C + c], acc);
+        }
+    }
+}
+
+// ---- column kernels ------------------------------------------------------------------------
+
+// d = the extreme of K rows, element by element (K = 1 is a copy).
+template <class Op, class T, bool kKeepAlpha, int K>
+void columns(const T* const* rows, T* d, long n)
+{
+    using S = Simd<T>;
+    const Out<T, kKeepAlpha> o;
+    const T* r[K];
+    for (int k = 0; k < K; ++k) r[k] = rows[k];
+    long i = 0;
+#pragma GCC unroll 2
+    for (; i + S::L <= n; i += S::L) {
+        auto acc = S::load(r[0] + i);
+        for (int k = 1; k < K; ++k) acc = Op::absorb(acc, S::load(r[k] + i));
+        o.vec(d + i, acc);
+    }
+    for (; i < n; ++i) {
+        T acc = r[0][i];
+        for (int k = 1; k < K; ++k) acc = Op::absorb(acc, r[k][i]);
+        o.one(d, i, acc);
+    }
+}
+
+// Two outputs of a three-row mask from four row results, sharing the middle pair:
+// d0 = extreme(r0, r1, r2), d1 = extreme(r1, r2, r3).
+template <class Op, class T, bool kKeepAlpha>
+void columnsPair3(const T* r0, const T* r1, const T* r2, const T* r3, T* d0, T* d1, long n)
+{
+    using S = Simd<T>;
+    const Out<T, kKeepAlpha> o;
+    long i = 0;
+#pragma GCC unroll 2
+    for (; i + S::L <= n; i += S::L) {
+        const auto mid = Op::absorb(S::load(r1 + i), S::load(r2 + i));
+        o.vec(d0 + i, Op::absorb(mid, S::load(r0 + i)));
+        o.vec(d1 + i, Op::absorb(mid, S::load(r3 + i)));
+    }
+    for (; i < n; ++i) {
+        const T mid = Op::absorb(r1[i], r2[i]);
+        o.one(d0, i, Op::absorb(mid, r0[i]));
+        o.one(d1, i, Op::absorb(mid, r3[i]));
+    }
+}
+
+// Two new rows and a pair of outputs of a three-row mask in one pass, for row windows of
+// M <= 3 pixels: ra, rb = the row results of the widened rows ina, inb (kept for the next
+// pair), d0 = extreme(r0, r1, ra), d1 = extreme(r1, ra, rb).  The same values as rowDirect
+// followed by columnsPair3, without reading ra and rb back.
+template <class Op, class T, int C, int M, bool kKeepAlpha>
+void rowsAndPair3(const T* ina, const T* inb, const T* r0, const T* r1, T* ra, T* rb, T* d0, T* d1, long n)
+{
+    using S = Simd<T>;
+    const Out<T, kKeepAlpha> o;
+    long i = 0;
+    for (; i + S::L <= n; i += S::L) {
+        auto a = Op::first(S::load(ina + i)), b = Op::first(S::load(inb + i));
+        for (int k = 1; k < M; ++k) {
+            a = Op::absorb(a, S::load(ina + i + k * C));
+            b = Op::absorb(b, S::load(inb + i + k * C));
+        }
+        S::store(ra + i, a);
+        S::store(rb + i, b);
+        const auto mid = Op::absorb(S::load(r1 + i), a);
+        o.vec(d0 + i, Op::absorb(mid, S::load(r0 + i)));
+        o.vec(d1 + i, Op::absorb(mid, b));
+    }
+    for (; i < n; ++i) {
+        T a = Op::first(ina[i]), b = Op::first(inb[i]);
+        for (int k = 1; k < M; ++k) {
+            a = Op::absorb(a, ina[i + k * C]);
+            b = Op::absorb(b, inb[i + k * C]);
+        }
+        ra[i] = a;
+        rb[i] = b;
+        const T mid = Op::absorb(r1[i], a);
+        o.one(d0, i, Op::absorb(mid, r0[i]));
+        o.one(d1, i, Op::absorb(mid, b));
+    }
+}
+
+// One step of the vertical block scheme: the running prefix p absorbs the new row r (or
+// starts from it), and d = the extreme of the old block's suffix s and the prefix.
+template <class Op, class T, bool kKeepAlpha>
+void prefixStep(T* p, const T* r, bool start, const T* s, T* d, long n)
+{
+    using S = Simd<T>;
+    const Out<T, kKeepAlpha> o;
+    long i = 0;
+    for (; i + S::L <= n; i += S::L) {
+        const auto v = start ? S::load(r + i) : Op::absorb(S::load(p + i), S::load(r + i));
+        S::store(p + i, v);
+        o.vec(d + i, Op::absorb(S::load(s + i), v));
+    }
+    for (; i < n; ++i) {
+        const T v = start ? r[i] : Op::absorb(p[i], r[i]);
+        p[i] = v;
+        o.one(d, i, Op::absorb(s[i], v));
+    }
+}
+
+// a absorbs b into d (d may be a).
+template <class Op, class T, bool kKeepAlpha>
+void pair(const T* a, const T* b, T* d, long n)
+{
+    pairs<Op>(a, b, d, n, Out<T, kKeepAlpha>{});
+}
+
+// The fixed 3x3 window: d[x] = the extreme of r[0..2][x .. x+2] (the rows start one pixel
+// left of the output's column).
+template <class Op>
+void rows3x3(const Kro64f* const* r, Kro64f* d, long w)
+{
+    using S = Simd<Kro64f>;
+    long x = 0;
+    for (; x + S::L <= w; x += S::L) {
+        auto acc = Op::first(S::load(r[0] + x));
+        for (int k = 0; k < 3; ++k)
+            for (int i = k == 0 ? 1 : 0; i < 3; ++i) acc = Op::absorb(acc, S::load(r[k] + x + i));
+        S::store(d + x, acc);
+    }
+    for (; x < w; ++x) {
+        Kro64f acc = Op::first(r[0][x]);
+        for (int k = 0; k < 3; ++k)
+            for (int i = k == 0 ? 1 : 0; i < 3; ++i) acc = Op::absorb(acc, r[k][x + i]);
+        d[x] = acc;
+    }
+}
+
+}  // namespace KROI_TIER::filter::minmax
