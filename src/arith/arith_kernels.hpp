@@ -66,6 +66,7 @@
 #include "frame/check.hpp"
 #include "frame/round.hpp"
 #include "frame/rows.hpp"
+#include "frame/stream.hpp"
 
 // The fill-0 paths reuse the Set functions.
 KROI_INTERNAL(kroiSet_8u_C1R)
@@ -707,9 +708,8 @@ Job<T, X, Y> job(X x, Y y, T* d, std::ptrdiff_t dStep, int width, int height)
 // starts on 16 bytes.
 inline bool streams(std::ptrdiff_t bytes, const void* d, std::ptrdiff_t dStep)
 {
-    int cache = 0;
-    if (kroGetMaxCacheSizeB(&cache) != kroStsOk || cache <= 0 || bytes < cache / 2) return false;
-    return ((reinterpret_cast<std::uintptr_t>(d) | static_cast<std::uintptr_t>(dStep)) & 15) == 0;
+    const std::int64_t cache = stream::largestCache();
+    return cache > 0 && bytes >= cache / 2 && stream::rowsAligned(d, dStep);
 }
 
 // Every row of the job; rows that lie end to end in every image are done as one.  Returns

@@ -13,7 +13,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "convert/stream.hpp"
+#include "frame/stream.hpp"
 #include "frame/base.hpp"
 
 namespace KROI_TIER::convert {

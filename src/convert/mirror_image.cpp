@@ -20,7 +20,7 @@
 #include "frame/bind.hpp"
 #include "frame/check.hpp"
 #include "frame/cpu.hpp"
-#include "convert/mirror_stream.hpp"
+#include "frame/stream.hpp"
 
 namespace KROI_TIER::convert {
 
@@ -123,7 +123,7 @@ long reverseBlocks(const Byte* s, Byte* d, long n, bool ahead)
 {
     constexpr int E = sizeof(T), P = E * C;
     const long bytes = n * P;
-    auto store = store16<kStream>;
+    auto store = stream::store16<kStream>;
     long i = 0;
     if constexpr (kSse2Reverse<P>) {
         if constexpr (W == C) {
@@ -148,7 +148,7 @@ long reverseBlocks(const Byte* s, Byte* d, long n, bool ahead)
 // Outside the unnamed namespace so that the tier audit reads the kernel's name.
 // The same for 3-, 6- and 12-byte pixels, 48 bytes at a time, through the masks of the
 // pixel size; returns the bytes done.
-static KROI_SSE41 long reverse48_sse41(const Byte* s, Byte* d, long bytes, const Rev48& masks, bool stream, bool ahead)
+static KROI_SSE41 long reverse48_sse41(const Byte* s, Byte* d, long bytes, const Rev48& masks, bool streaming, bool ahead)
 {
     __m128i k[3][3];
     for (int o = 0; o < 3; ++o)
@@ -162,10 +162,10 @@ static KROI_SSE41 long reverse48_sse41(const Byte* s, Byte* d, long bytes, const
         for (int o = 0; o < 3; ++o)
             r[o] = _mm_or_si128(_mm_or_si128(_mm_shuffle_epi8(a0, k[o][0]), _mm_shuffle_epi8(a1, k[o][1])),
                                 _mm_shuffle_epi8(a2, k[o][2]));
-        if (stream)
-            store16<true>(d + i, r[0]), store16<true>(d + i + 16, r[1]), store16<true>(d + i + 32, r[2]);
-        else
-            store16<false>(d + i, r[0]), store16<false>(d + i + 16, r[1]), store16<false>(d + i + 32, r[2]);
+        for (int o = 0; o < 3; ++o) {
+            if (streaming) stream::store16<true>(d + i + 16 * o, r[o]);
+            else stream::store16<false>(d + i + 16 * o, r[o]);
+        }
     }
     return i;
 }
@@ -319,7 +319,7 @@ KroStatus mirror(const T* pSrc, int srcStep, T* pDst, int dstStep, KroiSize roiS
     const std::int64_t rowBytes = std::int64_t(roiSize.width) * C * std::int64_t(sizeof(T));
     // Reversed rows of an image beyond the biggest cache stream out; measured, the row
     // exchanges of flips 0 and 2 gain nothing from it and keep ordinary stores.
-    if (flip == 1 && streamRows(2 * rowBytes * roiSize.height, pDst, dstStep))
+    if (flip == 1 && stream::rowsBeyondCache(2 * rowBytes * roiSize.height, pDst, dstStep))
         mirrorRows<T, C, W, true>(pSrc, srcStep, pDst, dstStep, roiSize, flip);
     else
         mirrorRows<T, C, W, false>(pSrc, srcStep, pDst, dstStep, roiSize, flip);

@@ -16,7 +16,7 @@
 #include "frame/bind.hpp"
 #include "frame/check.hpp"
 #include "frame/rows.hpp"
-#include "convert/mirror_stream.hpp"
+#include "frame/stream.hpp"
 
 namespace KROI_TIER::tone {
 
@@ -117,7 +117,7 @@ inline __m128i mask16(const T* a, const T* b, const Op& op)
 template <bool kStream = false, class T, class Op>
 void maskRow(const T* a, const T* b, Kro8u* m, long n, const Op& op)
 {
-    using convert::store16;
+    using stream::store16;
     long i = 0;
     for (; i + 64 <= n; i += 64) {
                 // Both sources 1024 elements ahead: two read streams and a write stream are more than
@@ -179,7 +179,7 @@ KroStatus compareRows(const T* a, int sa, const T* b, int sb, Kro8u* d, int sd, 
     // One-channel masks of images beyond the biggest cache go out with streaming stores.
     const std::int64_t bytes = std::int64_t(roi.width) * roi.height * ((kConstRow ? 1 : 2) * rowBytes / roi.width + 1);
     if constexpr (C == 1) {
-        if (convert::streamRows(bytes, d, sd)) {
+        if (stream::rowsBeyondCache(bytes, d, sd)) {
             for (int y = 0; y < height; ++y)
                 compareRow<T, C, W, kConstRow, true>(A.row(y), kConstRow ? b : B.row(y), D.row(y), width, op);
             _mm_sfence();

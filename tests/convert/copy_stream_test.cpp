@@ -10,7 +10,7 @@
 #include "kroi.h"
 #include "support/compare.hpp"
 #include "support/random.hpp"
-#include "convert/copyset_shapes.hpp"
+#include "support/guarded.hpp"
 
 namespace {
 int g_cacheBytes = 64 << 10;  // 0 or less: the query fails

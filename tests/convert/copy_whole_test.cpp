@@ -13,7 +13,7 @@
 #include "kroi.h"
 #include "support/compare.hpp"
 #include "support/random.hpp"
-#include "convert/copyset_shapes.hpp"
+#include "support/guarded.hpp"
 
 namespace {
 

@@ -32,6 +32,17 @@ struct Shape {
     bool bottomUp = false; // row 0 at the highest address, negative step
 };
 
+// The shape with offset and padding rounded down to whole elements of T, so that every
+// element of a 16- or 32-bit image is aligned for its type (as callers' images are), while
+// the rows still start at every alignment a kernel can meet.
+template <class T>
+Shape typed(Shape s)
+{
+    s.offset -= s.offset % int(sizeof(T));
+    s.padBytes -= s.padBytes % int(sizeof(T));
+    return s;
+}
+
 // The untyped part: memory, placement, canaries.
 class GuardedBytes {
 public:

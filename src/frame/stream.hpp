@@ -1,10 +1,12 @@
-// Row stores that bypass the caches, for kernels that write large regions.
+// Stores that bypass the caches, for kernels that write large regions, and the cache size
+// they are weighed against.
 //
 // A non-temporal store sends its line to memory without first reading it into the cache
 // and without evicting data the caller still needs, so above a family's size threshold it
 // roughly halves the memory traffic of a write-only stream.  Below the threshold it is a
 // loss: the data would have stayed in cache for whoever reads it next.  Each family decides
-// when to stream; this header only gives the stores.
+// when to stream (the rules differ: some sizes are fixed, some are measured against the
+// largest cache); this header gives the cache size, the alignment test and the stores.
 //
 // Non-temporal stores are weakly ordered: another thread may see them after later ordinary
 // stores.  Every function that used them calls fence() once before it returns, so that the
@@ -25,14 +27,37 @@
 
 namespace KROI_TIER::stream {
 
+// The size in bytes of the largest processor cache, or 0 when the core library cannot tell
+// (then nothing is beyond it and every caller keeps ordinary stores).
+inline std::int64_t largestCache()
+{
+    int cache = 0;
+    return kroGetMaxCacheSizeB(&cache) == kroStsOk && cache > 0 ? cache : 0;
+}
+
+// True when every row of an image starts on 16 bytes, as 16-byte non-temporal stores need
+// when a kernel writes whole rows with them.
+inline bool rowsAligned(const void* d, std::ptrdiff_t step)
+{
+    return ((reinterpret_cast<std::uintptr_t>(d) | static_cast<std::uintptr_t>(step)) & 15) == 0;
+}
+
+// The rearrangements (mirror, channel swap, comparison masks): stream when everything the
+// call reads and writes exceeds the largest cache, and every destination row is aligned.
+inline bool rowsBeyondCache(std::int64_t bytes, const void* d, std::ptrdiff_t step)
+{
+    const std::int64_t cache = largestCache();
+    return rowsAligned(d, step) && cache > 0 && bytes > cache;
+}
+
 // True when a write of `bytes` bytes should stream: it is above `floor` and at least as large
 // as the largest cache the core library reports, so that it would not have stayed in the
 // cache anyway.  A failed query means ordinary stores.
 inline bool beyondCache(int64_t bytes, int64_t floor)
 {
     if (bytes <= floor) return false;
-    int cache = 0;
-    return kroGetMaxCacheSizeB(&cache) == kroStsOk && bytes >= cache;
+    const std::int64_t cache = largestCache();
+    return cache > 0 && bytes >= cache;
 }
 
 // Orders the non-temporal stores issued so far before any later store.
@@ -121,5 +146,13 @@ inline void fillRow(void* dst, std::size_t n, const Pattern& p)
 
 inline void storeCached(__m128i* d, __m128i v) { _mm_store_si128(d, v); }
 inline void storeStreaming(__m128i* d, __m128i v) { _mm_stream_si128(d, v); }
+
+// One 16-byte store, streaming (p aligned) or not (any p).
+template <bool kStream>
+inline void store16(void* p, __m128i v)
+{
+    if constexpr (kStream) _mm_stream_si128(static_cast<__m128i*>(p), v);
+    else _mm_storeu_si128(static_cast<__m128i*>(p), v);
+}
 
 }  // namespace KROI_TIER::stream
