@@ -94,6 +94,10 @@ TEST(TierAudit, FunctionNames)
 
 TEST(TierAudit, NothingAboveSse3OutsideSse41Kernels)
 {
+#ifdef KROI_SANITIZE
+    // The instrumented library is not the one that ships; the optimised build audits that.
+    GTEST_SKIP() << "sanitizer build";
+#endif
     const std::string cmd = std::string(OBJDUMP) + " -d -C --no-show-raw-insn '" KROIT3_FILE "' 2>&1";
     std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(cmd.c_str(), "r"), pclose);
     ASSERT_TRUE(pipe) << cmd;
