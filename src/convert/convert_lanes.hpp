@@ -79,6 +79,28 @@ inline auto load(const S* p)
     }
 }
 
+// Source lines are asked for this far ahead of the loads.  The hardware prefetcher alone
+// leaves a single core waiting on the L3 and on memory; 4 KiB ahead covers the latency of
+// either at the rate these loops consume data (1 KiB was enough for the L3 but lost time on
+// images that come from memory).  Loops stop prefetching that far before the row's end, so
+// that no address outside the caller's rows is ever named.
+constexpr long kPrefetchBytes = 4096;
+
+// Asks for the line kPrefetchBytes beyond p (and the next one when a step reads two lines).
+template <class S>
+inline void prefetch(const S* p)
+{
+    const char* c = reinterpret_cast<const char*>(p) + kPrefetchBytes;
+    _mm_prefetch(c, _MM_HINT_T0);
+    if constexpr (sizeof(S) == 4) _mm_prefetch(c + 64, _MM_HINT_T0);
+}
+// prefetch(p + i) stays inside a row of n elements while i is below this.
+template <class S>
+constexpr long prefetchEnd(long n)
+{
+    return n - (kPrefetchBytes + 128) / long(sizeof(S));
+}
+
 // int32 lanes below 0 become 0.
 inline __m128i clampNegative(__m128i v) { return _mm_andnot_si128(_mm_srai_epi32(v, 31), v); }
 
@@ -110,6 +132,29 @@ inline void store(D* p, const I4& x)
         static_assert(std::is_same_v<D, Kro8s>);
         St::si(p, _mm_packs_epi16(_mm_packs_epi32(x.v[0], x.v[1]), _mm_packs_epi32(x.v[2], x.v[3])));
     }
+}
+
+// Stores x as store() would unless a lane holds INT32_MIN, the value cvtps2dq gives for NaN
+// and for floats beyond the int32 range; returns whether it stored.  A lane near INT32_MIN
+// may refuse as well, which only costs its block the slow path.
+template <class St, class D>
+inline bool storeUnlessIntMin(D* p, const I4& x)
+{
+    const __m128i kMin16 = _mm_set1_epi16(-32768);
+    if constexpr (sizeof(D) == 1) {
+        // INT32_MIN packs to -32768, the least 16-bit value, so one minimum of the two packed
+        // registers shows it.  (So does a true -32768, which saturates to the same byte.)
+        const __m128i a = _mm_packs_epi32(x.v[0], x.v[1]), b = _mm_packs_epi32(x.v[2], x.v[3]);
+        if (_mm_movemask_epi8(_mm_cmpeq_epi16(_mm_min_epi16(a, b), kMin16)) != 0) return false;
+        St::si(p, std::is_same_v<D, Kro8u> ? _mm_packus_epi16(a, b) : _mm_packs_epi16(a, b));
+    } else {
+        // A 16-bit destination saturates many values to -32768, so look before packing: the
+        // upper half of INT32_MIN is the least 16-bit value and survives a 16-bit minimum.
+        const __m128i m = _mm_min_epi16(_mm_min_epi16(x.v[0], x.v[1]), _mm_min_epi16(x.v[2], x.v[3]));
+        if ((_mm_movemask_epi8(_mm_cmpeq_epi16(m, kMin16)) & 0xCCCC) != 0) return false;
+        store<St>(p, x);
+    }
+    return true;
 }
 
 template <class St, class D>

@@ -80,16 +80,28 @@ struct Saturate {
         St::si(d, _mm_packus_epi16(a, b));
     }
 
-    // 16u to 8u with SSE4.1: the clamp to 255 is one pminuw.
-    KROI_SSE41 static void row_sse41(const S* s, D* d, long n)
+    // 16u to 8u with SSE4.1: the clamp to 255 is one pminuw per eight elements.
+    KROI_SSE41 static void block_sse41(const S* s, D* d)
         requires(std::is_same_v<S, Kro16u> && std::is_same_v<D, Kro8u>)
     {
         const __m128i top = _mm_set1_epi16(255);
+        const __m128i a = _mm_min_epu16(lanes::loadu(s), top), b = _mm_min_epu16(lanes::loadu(s + 8), top);
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(d), _mm_packus_epi16(a, b));
+    }
+    // The loop of row() (convert_rows.hpp) around it.
+    KROI_SSE41 static void row_sse41(const S* s, D* d, long n)
+        requires(std::is_same_v<S, Kro16u> && std::is_same_v<D, Kro8u>)
+    {
+        const long ahead = lanes::prefetchEnd<S>(n);
         long i = 0;
-        for (; i + 16 <= n; i += 16) {
-            const __m128i a = _mm_min_epu16(lanes::loadu(s + i), top);
-            const __m128i b = _mm_min_epu16(lanes::loadu(s + i + 8), top);
-            _mm_storeu_si128(reinterpret_cast<__m128i*>(d + i), _mm_packus_epi16(a, b));
+        for (; i + 2 * lanes::kBlock <= n; i += 2 * lanes::kBlock) {
+            if (i < ahead) lanes::prefetch(s + i);
+            block_sse41(s + i, d + i);
+            block_sse41(s + i + lanes::kBlock, d + i + lanes::kBlock);
+        }
+        if (i + lanes::kBlock <= n) {
+            block_sse41(s + i, d + i);
+            i += lanes::kBlock;
         }
         for (; i < n; ++i) d[i] = scalar(s[i]);
     }
@@ -110,6 +122,17 @@ struct FloatToInt {
     {
         const double v = kScaled ? double(x) * double(factor) : double(x);
         return saturateIntegral<D>(roundByMode(v, kAway ? kroRndNearAway : mode));
+    }
+    // One conversion per lane and nothing else.  Wherever no lane converts to INT32_MIN the
+    // value was neither NaN nor beyond the int32 range, and the saturating stores clamp it
+    // exactly as the clamp in lanes() would have.
+    lanes::I4 unclamped(const lanes::F4& x) const
+        requires(!kAway)
+    {
+        const __m128 f = _mm_set1_ps(factor);
+        lanes::I4 r;
+        for (int k = 0; k < 4; ++k) r.v[k] = _mm_cvtps_epi32(kScaled ? _mm_mul_ps(x.v[k], f) : x.v[k]);
+        return r;
     }
     lanes::I4 lanes(const lanes::F4& x) const
     {
@@ -294,6 +317,15 @@ struct Scale32f8u {
         x = x > vMin ? x : vMin;  // the operand order of maxps and minps, NaN included
         x = x < vMax ? x : vMax;
         return saturateIntegral<Kro8u>(roundHalfEven(x * factor + offset));
+    }
+    // Without the clamp to 255: right wherever no lane converts to INT32_MIN (see FloatToInt).
+    lanes::I4 unclamped(const lanes::F4& x) const
+        requires(!kClampTop)
+    {
+        const __m128 f = _mm_set1_ps(factor), o = _mm_set1_ps(offset);
+        lanes::I4 r;
+        for (int k = 0; k < 4; ++k) r.v[k] = _mm_cvtps_epi32(_mm_add_ps(_mm_mul_ps(x.v[k], f), o));
+        return r;
     }
     lanes::I4 lanes(const lanes::F4& x) const
     {

@@ -18,21 +18,31 @@ namespace KROI_TIER::cvt {
 enum Layout : int { C1 = 1, C3 = 3, C4 = 4, AC4 = 5 };
 constexpr int channelsOf(Layout l) { return l == AC4 ? 4 : int(l); }
 
+// An operation with unclamped() offers a cheaper body that is right whenever no lane comes
+// out as INT32_MIN; a block where one does is done again by lanes().
 template <class St, class Op, class S, class D>
 inline void block(const S* s, D* d, const Op& op)
 {
-    if constexpr (requires { Op::template direct<St>(s, d); })
+    if constexpr (requires { Op::template direct<St>(s, d); }) {
         Op::template direct<St>(s, d);
-    else
+    } else if constexpr (requires { op.unclamped(lanes::load(s)); }) {
+        const auto x = lanes::load(s);
+        if (__builtin_expect(!lanes::storeUnlessIntMin<St>(d, op.unclamped(x)), 0)) lanes::store<St>(d, op.lanes(x));
+    } else {
         lanes::store<St>(d, op.lanes(lanes::load(s)));
+    }
 }
 
+// The operation is taken by value: a reference would have to be read again after every
+// store, since the compiler cannot rule out that the destination overlaps it.
 template <class Op, class S, class D>
-void row(const S* s, D* d, long n, const Op& op)
+void row(const S* s, D* d, long n, const Op op)
 {
     long i = 0;
     if constexpr (Op::kVector) {
+        const long ahead = lanes::prefetchEnd<S>(n);
         for (; i + 2 * lanes::kBlock <= n; i += 2 * lanes::kBlock) {  // two blocks in flight
+            if (i < ahead) lanes::prefetch(s + i);
             block<lanes::StoreU>(s + i, d + i, op);
             block<lanes::StoreU>(s + i + lanes::kBlock, d + i + lanes::kBlock, op);
         }
