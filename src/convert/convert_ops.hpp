@@ -81,29 +81,12 @@ struct Saturate {
     }
 
     // 16u to 8u with SSE4.1: the clamp to 255 is one pminuw per eight elements.
-    KROI_SSE41 static void block_sse41(const S* s, D* d)
+    KROI_SSE41 static void direct_sse41(const S* s, D* d)
         requires(std::is_same_v<S, Kro16u> && std::is_same_v<D, Kro8u>)
     {
         const __m128i top = _mm_set1_epi16(255);
         const __m128i a = _mm_min_epu16(lanes::loadu(s), top), b = _mm_min_epu16(lanes::loadu(s + 8), top);
         _mm_storeu_si128(reinterpret_cast<__m128i*>(d), _mm_packus_epi16(a, b));
-    }
-    // The loop of row() (convert_rows.hpp) around it.
-    KROI_SSE41 static void row_sse41(const S* s, D* d, long n)
-        requires(std::is_same_v<S, Kro16u> && std::is_same_v<D, Kro8u>)
-    {
-        const long ahead = lanes::prefetchEnd<S>(n);
-        long i = 0;
-        for (; i + 2 * lanes::kBlock <= n; i += 2 * lanes::kBlock) {
-            if (i < ahead) lanes::prefetch(s + i);
-            block_sse41(s + i, d + i);
-            block_sse41(s + i + lanes::kBlock, d + i + lanes::kBlock);
-        }
-        if (i + lanes::kBlock <= n) {
-            block_sse41(s + i, d + i);
-            i += lanes::kBlock;
-        }
-        for (; i < n; ++i) d[i] = scalar(s[i]);
     }
 };
 
