@@ -178,6 +178,41 @@ struct IntSfs {
     }
 };
 
+// The same in 32-bit lanes, for 8- and 16-bit sources and -15 <= scaleFactor <= 30: the
+// source shifted up, or plus a rounding bias, then stays inside int32.  The API function
+// checks the factor.
+template <class S, class D>
+struct IntSfsLanes : IntSfs<S, D> {
+    static constexpr bool kVector = lanes::kWidens<S> && lanes::kStorable<D>;
+    static constexpr bool fits(int scaleFactor) { return scaleFactor >= -15 && scaleFactor <= 30; }
+
+    lanes::I4 lanes(const lanes::I4& x) const
+    {
+        const int sf = this->sf;
+        const __m128i count = _mm_cvtsi32_si128(sf > 0 ? sf : -sf);
+        lanes::I4 r;
+        for (int k = 0; k < 4; ++k) {
+            const __m128i v = x.v[k];
+            if (sf <= 0) {
+                r.v[k] = _mm_sll_epi32(v, count);
+            } else if (this->mode == kroRndNear) {
+                // floor((v + half - 1 + (floor(v / 2^sf) & 1)) / 2^sf): ties go to the even side
+                const __m128i odd = _mm_and_si128(_mm_sra_epi32(v, count), _mm_set1_epi32(1));
+                const __m128i bias = _mm_set1_epi32((1 << (sf - 1)) - 1);
+                r.v[k] = _mm_sra_epi32(_mm_add_epi32(_mm_add_epi32(v, bias), odd), count);
+            } else {
+                // The magnitude shifted (plus one half away from zero), the sign put back.
+                const __m128i sign = _mm_srai_epi32(v, 31);
+                const __m128i add = _mm_set1_epi32(this->mode == kroRndZero ? 0 : 1 << (sf - 1));
+                const __m128i a = _mm_sub_epi32(_mm_xor_si128(v, sign), sign);
+                const __m128i q = _mm_srl_epi32(_mm_add_epi32(a, add), count);
+                r.v[k] = _mm_sub_epi32(_mm_xor_si128(q, sign), sign);
+            }
+        }
+        return r;
+    }
+};
+
 // ---- range scaling between integer types ---------------------------------------------------
 // 8u onto the whole range of D by repeating the byte: 0 goes to D's minimum, 255 to its maximum.
 template <class D>

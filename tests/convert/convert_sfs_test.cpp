@@ -35,7 +35,7 @@ void sfsMember(const char* name, KroStatus (*fn)(const S*, int, D*, int, KroiSiz
     const std::vector<int> factors =
         std::is_floating_point_v<S>
             ? std::vector<int>{0, 1, 3, -2, 24, -24, 100, -100, -101, 126, 127, -150, 200, 1100, -1100, 2000, -2000}
-            : std::vector<int>{0, 1, 2, 7, 8, 9, 15, 16, 17, 31, 32, 33, 60, -1, -7, -8, -16, -31, -32, -40};
+            : std::vector<int>{0, 1, 2, 7, 8, 9, 15, 16, 17, 30, 31, 32, 33, 60, -1, -7, -8, -15, -16, -31, -32, -40};
     for (int mode : kSfsModes)
         for (int sf : factors) {
             const std::string what = std::string(name) + " mode " + std::to_string(mode) + " sf " + std::to_string(sf);
