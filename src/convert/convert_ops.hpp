@@ -80,18 +80,13 @@ struct Saturate {
         St::si(d, _mm_packus_epi16(a, b));
     }
 
-    // 16u to 8u with SSE4.1: the clamp to 255 is one pminuw.
-    KROI_SSE41 static void row_sse41(const S* s, D* d, long n)
+    // 16u to 8u with SSE4.1: the clamp to 255 is one pminuw per eight elements.
+    KROI_SSE41 static void direct_sse41(const S* s, D* d)
         requires(std::is_same_v<S, Kro16u> && std::is_same_v<D, Kro8u>)
     {
         const __m128i top = _mm_set1_epi16(255);
-        long i = 0;
-        for (; i + 16 <= n; i += 16) {
-            const __m128i a = _mm_min_epu16(lanes::loadu(s + i), top);
-            const __m128i b = _mm_min_epu16(lanes::loadu(s + i + 8), top);
-            _mm_storeu_si128(reinterpret_cast<__m128i*>(d + i), _mm_packus_epi16(a, b));
-        }
-        for (; i < n; ++i) d[i] = scalar(s[i]);
+        const __m128i a = _mm_min_epu16(lanes::loadu(s), top), b = _mm_min_epu16(lanes::loadu(s + 8), top);
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(d), _mm_packus_epi16(a, b));
     }
 };
 
@@ -110,6 +105,17 @@ struct FloatToInt {
     {
         const double v = kScaled ? double(x) * double(factor) : double(x);
         return saturateIntegral<D>(roundByMode(v, kAway ? kroRndNearAway : mode));
+    }
+    // One conversion per lane and nothing else.  Wherever no lane converts to INT32_MIN the
+    // value was neither NaN nor beyond the int32 range, and the saturating stores clamp it
+    // exactly as the clamp in lanes() would have.
+    lanes::I4 unclamped(const lanes::F4& x) const
+        requires(!kAway)
+    {
+        const __m128 f = _mm_set1_ps(factor);
+        lanes::I4 r;
+        for (int k = 0; k < 4; ++k) r.v[k] = _mm_cvtps_epi32(kScaled ? _mm_mul_ps(x.v[k], f) : x.v[k]);
+        return r;
     }
     lanes::I4 lanes(const lanes::F4& x) const
     {
@@ -169,6 +175,41 @@ struct IntSfs {
     D scalar(S v) const
     {
         return saturate<D>(sf > 0 ? shiftByMode(int64_t(v), sf, mode) : scaleRoundEven(int64_t(v), sf));
+    }
+};
+
+// The same in 32-bit lanes, for 8- and 16-bit sources and -15 <= scaleFactor <= 30: the
+// source shifted up, or plus a rounding bias, then stays inside int32.  The API function
+// checks the factor.
+template <class S, class D>
+struct IntSfsLanes : IntSfs<S, D> {
+    static constexpr bool kVector = lanes::kWidens<S> && lanes::kStorable<D>;
+    static constexpr bool fits(int scaleFactor) { return scaleFactor >= -15 && scaleFactor <= 30; }
+
+    lanes::I4 lanes(const lanes::I4& x) const
+    {
+        const int sf = this->sf;
+        const __m128i count = _mm_cvtsi32_si128(sf > 0 ? sf : -sf);
+        lanes::I4 r;
+        for (int k = 0; k < 4; ++k) {
+            const __m128i v = x.v[k];
+            if (sf <= 0) {
+                r.v[k] = _mm_sll_epi32(v, count);
+            } else if (this->mode == kroRndNear) {
+                // floor((v + half - 1 + (floor(v / 2^sf) & 1)) / 2^sf): ties go to the even side
+                const __m128i odd = _mm_and_si128(_mm_sra_epi32(v, count), _mm_set1_epi32(1));
+                const __m128i bias = _mm_set1_epi32((1 << (sf - 1)) - 1);
+                r.v[k] = _mm_sra_epi32(_mm_add_epi32(_mm_add_epi32(v, bias), odd), count);
+            } else {
+                // The magnitude shifted (plus one half away from zero), the sign put back.
+                const __m128i sign = _mm_srai_epi32(v, 31);
+                const __m128i add = _mm_set1_epi32(this->mode == kroRndZero ? 0 : 1 << (sf - 1));
+                const __m128i a = _mm_sub_epi32(_mm_xor_si128(v, sign), sign);
+                const __m128i q = _mm_srl_epi32(_mm_add_epi32(a, add), count);
+                r.v[k] = _mm_sub_epi32(_mm_xor_si128(q, sign), sign);
+            }
+        }
+        return r;
     }
 };
 
@@ -294,6 +335,15 @@ struct Scale32f8u {
         x = x > vMin ? x : vMin;  // the operand order of maxps and minps, NaN included
         x = x < vMax ? x : vMax;
         return saturateIntegral<Kro8u>(roundHalfEven(x * factor + offset));
+    }
+    // Without the clamp to 255: right wherever no lane converts to INT32_MIN (see FloatToInt).
+    lanes::I4 unclamped(const lanes::F4& x) const
+        requires(!kClampTop)
+    {
+        const __m128 f = _mm_set1_ps(factor), o = _mm_set1_ps(offset);
+        lanes::I4 r;
+        for (int k = 0; k < 4; ++k) r.v[k] = _mm_cvtps_epi32(_mm_add_ps(_mm_mul_ps(x.v[k], f), o));
+        return r;
     }
     lanes::I4 lanes(const lanes::F4& x) const
     {

@@ -48,6 +48,12 @@ KroStatus sfs(const S* pSrc, int srcStep, D* pDst, int dstStep, KroiSize roiSize
     KROI_CHECK(check::roi(roiSize));
     const bool oneRow = contiguous<C1, S, D>(srcStep, dstStep, roiSize);
     if constexpr (!kFloat<S>) {
+        if constexpr (IntSfsLanes<S, D>::kVector) {
+            if (IntSfsLanes<S, D>::fits(scaleFactor)) {
+                run<C1>(pSrc, srcStep, pDst, dstStep, roiSize, oneRow, IntSfsLanes<S, D>{{roundMode, scaleFactor}});
+                return kroStsOk;
+            }
+        }
         run<C1>(pSrc, srcStep, pDst, dstStep, roiSize, oneRow, IntSfs<S, D>{roundMode, scaleFactor});
     } else {
         // 2^-scaleFactor is a float for these factors, and the float product is as good as exact

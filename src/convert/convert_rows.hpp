@@ -18,21 +18,31 @@ namespace KROI_TIER::cvt {
 enum Layout : int { C1 = 1, C3 = 3, C4 = 4, AC4 = 5 };
 constexpr int channelsOf(Layout l) { return l == AC4 ? 4 : int(l); }
 
+// An operation with unclamped() offers a cheaper body that is right whenever no lane comes
+// out as INT32_MIN; a block where one does is done again by lanes().
 template <class St, class Op, class S, class D>
 inline void block(const S* s, D* d, const Op& op)
 {
-    if constexpr (requires { Op::template direct<St>(s, d); })
+    if constexpr (requires { Op::template direct<St>(s, d); }) {
         Op::template direct<St>(s, d);
-    else
+    } else if constexpr (requires { op.unclamped(lanes::load(s)); }) {
+        const auto x = lanes::load(s);
+        if (__builtin_expect(!lanes::storeUnlessIntMin<St>(d, op.unclamped(x)), 0)) lanes::store<St>(d, op.lanes(x));
+    } else {
         lanes::store<St>(d, op.lanes(lanes::load(s)));
+    }
 }
 
+// The operation is taken by value: a reference would have to be read again after every
+// store, since the compiler cannot rule out that the destination overlaps it.
 template <class Op, class S, class D>
-void row(const S* s, D* d, long n, const Op& op)
+void row(const S* s, D* d, long n, const Op op)
 {
     long i = 0;
     if constexpr (Op::kVector) {
+        const long ahead = lanes::prefetchEnd<S>(n);
         for (; i + 2 * lanes::kBlock <= n; i += 2 * lanes::kBlock) {  // two blocks in flight
+            if (i < ahead) lanes::prefetch(s + i);
             block<lanes::StoreU>(s + i, d + i, op);
             block<lanes::StoreU>(s + i + lanes::kBlock, d + i + lanes::kBlock, op);
         }
@@ -40,6 +50,40 @@ void row(const S* s, D* d, long n, const Op& op)
             block<lanes::StoreU>(s + i, d + i, op);
             i += lanes::kBlock;
         }
+    }
+    for (; i < n; ++i) d[i] = op.scalar(s[i]);
+}
+
+// The same loop with SSE4.1, for operations on 8- and 16-bit sources: widening loads, or the
+// operation's own SSE4.1 block (direct_sse41) where it has one.
+template <class Op, class S, class D>
+constexpr bool kSse41Row = requires(const S* s, D* d) { Op::direct_sse41(s, d); } ||
+                           (lanes::kWidens<S> && Op::kVector && !requires(const S* s, D* d) {
+                               Op::template direct<lanes::StoreU>(s, d);
+                           });
+
+template <class Op, class S, class D>
+KROI_SSE41 inline void block_sse41(const S* s, D* d, const Op& op)
+{
+    if constexpr (requires { Op::direct_sse41(s, d); })
+        Op::direct_sse41(s, d);
+    else
+        lanes::store<lanes::StoreU>(d, op.lanes(lanes::load_sse41(s)));
+}
+
+template <class Op, class S, class D>
+KROI_SSE41 void row_sse41(const S* s, D* d, long n, const Op op)
+{
+    const long ahead = lanes::prefetchEnd<S>(n);
+    long i = 0;
+    for (; i + 2 * lanes::kBlock <= n; i += 2 * lanes::kBlock) {
+        if (i < ahead) lanes::prefetch(s + i);
+        block_sse41(s + i, d + i, op);
+        block_sse41(s + i + lanes::kBlock, d + i + lanes::kBlock, op);
+    }
+    if (i + lanes::kBlock <= n) {
+        block_sse41(s + i, d + i, op);
+        i += lanes::kBlock;
     }
     for (; i < n; ++i) d[i] = op.scalar(s[i]);
 }
@@ -90,9 +134,9 @@ void run(const S* s, int ss, D* d, int ds, KroiSize roi, bool oneRow, const Op& 
                 return;
             }
         }
-        if constexpr (requires { Op::row_sse41(s, d, n); }) {
+        if constexpr (kSse41Row<Op, S, D>) {
             if (cpu::hasSse41()) {
-                for (int y = 0; y < height; ++y) Op::row_sse41(src.row(y), dst.row(y), n);
+                for (int y = 0; y < height; ++y) row_sse41(src.row(y), dst.row(y), n, op);
                 return;
             }
         }

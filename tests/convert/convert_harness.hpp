@@ -109,9 +109,38 @@ inline const std::vector<Geometry>& quickGeometries()
 
 enum class Depth { full, quick };
 
+// A callable passed by reference without its type, so that the heavy parts of the harness
+// are compiled once per pair of element types rather than once per lambda.
+template <class Sig>
+class Fn;
+template <class R, class... A>
+class Fn<R(A...)> {
+public:
+    // The callable must outlive the Fn (a temporary lasts to the end of the call it is an
+    // argument of, which is all the harness needs).
+    template <class F>
+        requires(!std::is_same_v<std::remove_cvref_t<F>, Fn>)
+    Fn(F&& f)
+        : obj_(const_cast<void*>(static_cast<const void*>(&f))),
+          call_([](void* o, A... a) -> R { return (*static_cast<std::remove_reference_t<F>*>(o))(a...); })
+    {
+    }
+    R operator()(A... a) const { return call_(obj_, a...); }
+
+private:
+    void* obj_;
+    R (*call_)(void*, A...);
+};
+
+template <class S, class D>
+using CallFn = Fn<KroStatus(const S*, int, D*, int, KroiSize)>;
+template <class S, class D>
+using RefFn = Fn<D(S)>;
+
 // One call on one geometry.  `fill(src)` sets the source elements.
-template <class S, class D, class Call, class Ref, class Fill>
-void runOnce(const std::string& what, int layout, const Geometry& g, Call& call, Ref& ref, Fill&& fill)
+template <class S, class D>
+void runOnce(const std::string& what, int layout, const Geometry& g, CallFn<S, D> call, RefFn<S, D> ref,
+             Fn<void(kt::Guarded<S>&)> fill)
 {
     const int ch = channelsOf(layout), wr = writtenOf(layout);
     kt::Guarded<S> src(shapeOf<S>(g, ch, g.padSrc));
@@ -135,21 +164,21 @@ template <class S, class D, class Call, class Ref>
 void sweep(const std::string& what, int layout, Call call, Ref ref, kt::Rng& rng, Depth depth,
            const FloatSource& fs = {})
 {
+    auto random = [&](kt::Guarded<S>& s) { s.forEach([&](int, int, int, S& e) { e = draw<S>(rng, fs); }); };
     for (const Geometry& g : depth == Depth::full ? fullGeometries() : quickGeometries())
-        runOnce<S, D>(what, layout, g, call, ref, [&](kt::Guarded<S>& s) {
-            s.forEach([&](int, int, int, S& e) { e = draw<S>(rng, fs); });
-        });
+        runOnce<S, D>(what, layout, g, call, ref, random);
     if constexpr (std::is_integral_v<S> && sizeof(S) <= 2) {
         const long count = 1L << (8 * sizeof(S));
         const int width = 256, wr = writtenOf(layout);
         const int height = int((count + long(width) * wr - 1) / (long(width) * wr));
         const Geometry g{width, height, 0, 0, kt::Guard::After, 0};
-        runOnce<S, D>(what + " (every value)", layout, g, call, ref, [&](kt::Guarded<S>& s) {
+        auto every = [&](kt::Guarded<S>& s) {
             long k = 0;
             s.forEach([&](int, int, int c, S& e) {
                 if (c < wr) e = S(std::numeric_limits<S>::min() + k++ % count);
             });
-        });
+        };
+        runOnce<S, D>(what + " (every value)", layout, g, call, ref, every);
     }
 }
 
@@ -177,6 +206,34 @@ void sweepInPlace(const std::string& what, Call call, Ref ref, kt::Rng& rng, con
     }
 }
 
+// Float to integer rows convert a block of sixteen without clamping and convert it again,
+// clamped, when a lane came out as INT32_MIN.  Here each value that does (NaN, infinities,
+// floats beyond the int32 range) stands at each position of three blocks of ordinary
+// values from `fs`: it must get its own result and leave the other lanes theirs.
+template <class D, class Call, class Ref>
+void outOfRangeLanes(const std::string& what, Call call, Ref ref, const FloatSource& fs)
+{
+    constexpr int kN = 48;
+    const float inf = std::numeric_limits<float>::infinity(), nan = std::numeric_limits<float>::quiet_NaN();
+    const float odd[] = {nan, -nan, inf, -inf, 3e9f, -3e9f, 2147483648.0f, -2147483648.0f, 2147483520.0f};
+    kt::Rng rng = kt::rngForTest();
+    Kro32f ordinary[kN];
+    for (Kro32f& v : ordinary) v = Kro32f(std::uniform_real_distribution<double>(fs.lo, fs.hi)(rng));
+    for (float value : odd)
+        for (int pos = 0; pos < kN; ++pos) {
+            Kro32f src[kN];
+            D dst[kN];
+            std::memcpy(src, ordinary, sizeof src);
+            src[pos] = value;
+            ASSERT_EQ(callAsCaller([&] { return call(src, int(sizeof src), dst, int(sizeof dst), KroiSize{kN, 1}); }),
+                      kroStsOk)
+                << what;
+            for (int i = 0; i < kN; ++i)
+                ASSERT_EQ(int64_t(dst[i]), int64_t(ref(src[i])))
+                    << what << ": " << value << " at " << pos << ", element " << i << " from " << src[i];
+        }
+}
+
 // Check order: each row names the arguments that are wrong and the status the family owes.
 struct BadCall {
     bool nullSrc, nullDst;
@@ -198,8 +255,8 @@ inline std::vector<BadCall> orderTable(bool checksSteps)
     return t;
 }
 
-template <class S, class D, class Call>
-void checkOrder(const std::string& what, Call call, bool checksSteps)
+template <class S, class D>
+void checkOrder(const std::string& what, CallFn<S, D> call, bool checksSteps)
 {
     kt::Guarded<S> src(3, 2, 4);
     kt::Guarded<D> dst(3, 2, 4);
