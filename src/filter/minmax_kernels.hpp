@@ -142,6 +142,34 @@ struct Out {
     }
 };
 
+// Two vectors of results of one step.
+template <class T>
+struct Two {
+    typename Simd<T>::R a, b;
+};
+
+// ---- the element loop ----------------------------------------------------------------------
+
+// Runs a kernel over elements 0 .. n-1 in vectors of L lanes: compute(i) gives the results of
+// the vector at i, put(i, r) stores them.  The tail is one more vector ending at n, which
+// overlaps the last full one instead of finishing lane by lane; it is computed before the
+// loop, so that a pass running in place (which reads only at and after the element it
+// writes) still reads the original values there.  Rows shorter than a vector go through
+// one(i), the scalar definition.
+template <long L, class Compute, class Put, class One>
+inline void sweep(long n, Compute compute, Put put, One one)
+{
+    if (n < L) {
+        for (long i = 0; i < n; ++i) one(i);
+        return;
+    }
+    const auto last = compute(n - L);
+    long i = 0;
+#pragma GCC unroll 2
+    for (; i + L < n; i += L) put(i, compute(i));
+    put(n - L, last);
+}
+
 // ---- row kernels ---------------------------------------------------------------------------
 
 // The widest mask whose row pass doubles; beyond it the block scheme (rowBlocks) is cheaper,
@@ -154,19 +182,19 @@ void rowDirect(const T* in, T*, T* out, long width, int)
 {
     using S = Simd<T>;
     const Out<T, kKeepAlpha> o;
-    const long n = width * C;
-    long i = 0;
-#pragma GCC unroll 2
-    for (; i + S::L <= n; i += S::L) {
-        auto acc = Op::first(S::load(in + i));
-        for (int k = 1; k < M; ++k) acc = Op::absorb(acc, S::load(in + i + k * C));
-        o.vec(out + i, acc);
-    }
-    for (; i < n; ++i) {
-        T acc = Op::first(in[i]);
-        for (int k = 1; k < M; ++k) acc = Op::absorb(acc, in[i + k * C]);
-        o.one(out, i, acc);
-    }
+    sweep<S::L>(
+        width * C,
+        [&](long i) {
+            auto acc = Op::first(S::load(in + i));
+            for (int k = 1; k < M; ++k) acc = Op::absorb(acc, S::load(in + i + k * C));
+            return acc;
+        },
+        [&](long i, typename S::R v) { o.vec(out + i, v); },
+        [&](long i) {
+            T acc = Op::first(in[i]);
+            for (int k = 1; k < M; ++k) acc = Op::absorb(acc, in[i + k * C]);
+            o.one(out, i, acc);
+        });
 }
 
 // a[i] absorbs b[i] into d[i], i < n; d may be a.
@@ -174,9 +202,9 @@ template <class Op, class T, class O>
 inline void pairs(const T* a, const T* b, T* d, long n, const O& o)
 {
     using S = Simd<T>;
-    long i = 0;
-    for (; i + S::L <= n; i += S::L) o.vec(d + i, Op::absorb(S::load(a + i), S::load(b + i)));
-    for (; i < n; ++i) o.one(d, i, Op::absorb(a[i], b[i]));
+    sweep<S::L>(
+        n, [&](long i) { return Op::absorb(S::load(a + i), S::load(b + i)); },
+        [&](long i, typename S::R v) { o.vec(d + i, v); }, [&](long i) { o.one(d, i, Op::absorb(a[i], b[i])); });
 }
 
 // d[i] = the extreme of a[i], a[i+s], a[i+2s], a[i+3s] (s in elements), i < n; d may be a.
@@ -185,17 +213,19 @@ template <class Op, class T, bool kFirst>
 void quads(const T* a, T* d, long n, long s)
 {
     using S = Simd<T>;
-    long i = 0;
-    for (; i + S::L <= n; i += S::L) {
-        auto v = S::load(a + i);
-        if constexpr (kFirst) v = Op::first(v);
-        v = Op::absorb(Op::absorb(Op::absorb(v, S::load(a + i + s)), S::load(a + i + 2 * s)), S::load(a + i + 3 * s));
-        S::store(d + i, v);
-    }
-    for (; i < n; ++i) {
-        T v = kFirst ? Op::first(a[i]) : a[i];
-        d[i] = Op::absorb(Op::absorb(Op::absorb(v, a[i + s]), a[i + 2 * s]), a[i + 3 * s]);
-    }
+    sweep<S::L>(
+        n,
+        [&](long i) {
+            auto v = S::load(a + i);
+            if constexpr (kFirst) v = Op::first(v);
+            return Op::absorb(Op::absorb(Op::absorb(v, S::load(a + i + s)), S::load(a + i + 2 * s)),
+                              S::load(a + i + 3 * s));
+        },
+        [&](long i, typename S::R v) { S::store(d + i, v); },
+        [&](long i) {
+            T v = kFirst ? Op::first(a[i]) : a[i];
+            d[i] = Op::absorb(Op::absorb(Op::absorb(v, a[i + s]), a[i + 2 * s]), a[i + 3 * s]);
+        });
 }
 
 template <class Op, class T, bool kKeepAlpha, int K>
@@ -270,18 +300,19 @@ void columns(const T* const* rows, T* d, long n)
     const Out<T, kKeepAlpha> o;
     const T* r[K];
     for (int k = 0; k < K; ++k) r[k] = rows[k];
-    long i = 0;
-#pragma GCC unroll 2
-    for (; i + S::L <= n; i += S::L) {
-        auto acc = S::load(r[0] + i);
-        for (int k = 1; k < K; ++k) acc = Op::absorb(acc, S::load(r[k] + i));
-        o.vec(d + i, acc);
-    }
-    for (; i < n; ++i) {
-        T acc = r[0][i];
-        for (int k = 1; k < K; ++k) acc = Op::absorb(acc, r[k][i]);
-        o.one(d, i, acc);
-    }
+    sweep<S::L>(
+        n,
+        [&](long i) {
+            auto acc = S::load(r[0] + i);
+            for (int k = 1; k < K; ++k) acc = Op::absorb(acc, S::load(r[k] + i));
+            return acc;
+        },
+        [&](long i, typename S::R v) { o.vec(d + i, v); },
+        [&](long i) {
+            T acc = r[0][i];
+            for (int k = 1; k < K; ++k) acc = Op::absorb(acc, r[k][i]);
+            o.one(d, i, acc);
+        });
 }
 
 // Two outputs of a three-row mask from four row results, sharing the middle pair:
@@ -290,19 +321,23 @@ template <class Op, class T, bool kKeepAlpha>
 void columnsPair3(const T* r0, const T* r1, const T* r2, const T* r3, T* d0, T* d1, long n)
 {
     using S = Simd<T>;
+    using R = typename S::R;
     const Out<T, kKeepAlpha> o;
-    long i = 0;
-#pragma GCC unroll 2
-    for (; i + S::L <= n; i += S::L) {
-        const auto mid = Op::absorb(S::load(r1 + i), S::load(r2 + i));
-        o.vec(d0 + i, Op::absorb(mid, S::load(r0 + i)));
-        o.vec(d1 + i, Op::absorb(mid, S::load(r3 + i)));
-    }
-    for (; i < n; ++i) {
-        const T mid = Op::absorb(r1[i], r2[i]);
-        o.one(d0, i, Op::absorb(mid, r0[i]));
-        o.one(d1, i, Op::absorb(mid, r3[i]));
-    }
+    sweep<S::L>(
+        n,
+        [&](long i) {
+            const R mid = Op::absorb(S::load(r1 + i), S::load(r2 + i));
+            return Two<T>{Op::absorb(mid, S::load(r0 + i)), Op::absorb(mid, S::load(r3 + i))};
+        },
+        [&](long i, Two<T> v) {
+            o.vec(d0 + i, v.a);
+            o.vec(d1 + i, v.b);
+        },
+        [&](long i) {
+            const T mid = Op::absorb(r1[i], r2[i]);
+            o.one(d0, i, Op::absorb(mid, r0[i]));
+            o.one(d1, i, Op::absorb(mid, r3[i]));
+        });
 }
 
 // Two new rows and a pair of outputs of a three-row mask in one pass, for row windows of
@@ -313,32 +348,40 @@ template <class Op, class T, int C, int M, bool kKeepAlpha>
 void rowsAndPair3(const T* ina, const T* inb, const T* r0, const T* r1, T* ra, T* rb, T* d0, T* d1, long n)
 {
     using S = Simd<T>;
+    using R = typename S::R;
     const Out<T, kKeepAlpha> o;
-    long i = 0;
-    for (; i + S::L <= n; i += S::L) {
-        auto a = Op::first(S::load(ina + i)), b = Op::first(S::load(inb + i));
-        for (int k = 1; k < M; ++k) {
-            a = Op::absorb(a, S::load(ina + i + k * C));
-            b = Op::absorb(b, S::load(inb + i + k * C));
-        }
-        S::store(ra + i, a);
-        S::store(rb + i, b);
-        const auto mid = Op::absorb(S::load(r1 + i), a);
-        o.vec(d0 + i, Op::absorb(mid, S::load(r0 + i)));
-        o.vec(d1 + i, Op::absorb(mid, b));
-    }
-    for (; i < n; ++i) {
-        T a = Op::first(ina[i]), b = Op::first(inb[i]);
-        for (int k = 1; k < M; ++k) {
-            a = Op::absorb(a, ina[i + k * C]);
-            b = Op::absorb(b, inb[i + k * C]);
-        }
-        ra[i] = a;
-        rb[i] = b;
-        const T mid = Op::absorb(r1[i], a);
-        o.one(d0, i, Op::absorb(mid, r0[i]));
-        o.one(d1, i, Op::absorb(mid, b));
-    }
+    struct Four {
+        R a, b, d0, d1;
+    };
+    sweep<S::L>(
+        n,
+        [&](long i) {
+            R a = Op::first(S::load(ina + i)), b = Op::first(S::load(inb + i));
+            for (int k = 1; k < M; ++k) {
+                a = Op::absorb(a, S::load(ina + i + k * C));
+                b = Op::absorb(b, S::load(inb + i + k * C));
+            }
+            const R mid = Op::absorb(S::load(r1 + i), a);
+            return Four{a, b, Op::absorb(mid, S::load(r0 + i)), Op::absorb(mid, b)};
+        },
+        [&](long i, const Four& v) {
+            S::store(ra + i, v.a);
+            S::store(rb + i, v.b);
+            o.vec(d0 + i, v.d0);
+            o.vec(d1 + i, v.d1);
+        },
+        [&](long i) {
+            T a = Op::first(ina[i]), b = Op::first(inb[i]);
+            for (int k = 1; k < M; ++k) {
+                a = Op::absorb(a, ina[i + k * C]);
+                b = Op::absorb(b, inb[i + k * C]);
+            }
+            ra[i] = a;
+            rb[i] = b;
+            const T mid = Op::absorb(r1[i], a);
+            o.one(d0, i, Op::absorb(mid, r0[i]));
+            o.one(d1, i, Op::absorb(mid, b));
+        });
 }
 
 // One step of the vertical block scheme: the running prefix p absorbs the new row r (or
@@ -347,18 +390,23 @@ template <class Op, class T, bool kKeepAlpha>
 void prefixStep(T* p, const T* r, bool start, const T* s, T* d, long n)
 {
     using S = Simd<T>;
+    using R = typename S::R;
     const Out<T, kKeepAlpha> o;
-    long i = 0;
-    for (; i + S::L <= n; i += S::L) {
-        const auto v = start ? S::load(r + i) : Op::absorb(S::load(p + i), S::load(r + i));
-        S::store(p + i, v);
-        o.vec(d + i, Op::absorb(S::load(s + i), v));
-    }
-    for (; i < n; ++i) {
-        const T v = start ? r[i] : Op::absorb(p[i], r[i]);
-        p[i] = v;
-        o.one(d, i, Op::absorb(s[i], v));
-    }
+    sweep<S::L>(
+        n,
+        [&](long i) {
+            const R v = start ? S::load(r + i) : Op::absorb(S::load(p + i), S::load(r + i));
+            return Two<T>{v, Op::absorb(S::load(s + i), v)};
+        },
+        [&](long i, Two<T> v) {
+            S::store(p + i, v.a);
+            o.vec(d + i, v.b);
+        },
+        [&](long i) {
+            const T v = start ? r[i] : Op::absorb(p[i], r[i]);
+            p[i] = v;
+            o.one(d, i, Op::absorb(s[i], v));
+        });
 }
 
 // a absorbs b into d (d may be a).
