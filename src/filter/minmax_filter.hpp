@@ -24,6 +24,7 @@
 
 #include <cstddef>
 #include <cstring>
+#include <utility>
 
 #include "filter/border_rules.hpp"
 #include "filter/border_stage.hpp"
@@ -85,9 +86,19 @@ inline KroStatus bufferSize(KroiSize roi, KroiSize mask, KroDataType dataType, i
 template <class T>
 using RowKernel = void (*)(const T* in, T* work, T* out, long width, int m);
 
+// The single-sweep kernels of one-channel 8u rows, by window (5 .. 32 pixels).
+template <class Op, int... Ms>
+RowKernel<Kro8u> spansKernel(int mw, std::integer_sequence<int, Ms...>)
+{
+    static constexpr RowKernel<Kro8u> table[] = {rowSpans8u<Op, Ms + 5>...};
+    return table[mw - 5];
+}
+
 template <class Op, class T, int C, bool kAlpha, bool kKeepAlpha>
 RowKernel<T> rowKernel(int mw)
 {
+    if constexpr (std::is_same_v<T, Kro8u> && C == 1)
+        if (mw >= 5 && mw <= 32 && cpu::hasSse41()) return spansKernel<Op>(mw, std::make_integer_sequence<int, 28>{});
     if (mw == 1) return rowDirect<Op, T, C, 1, kKeepAlpha>;
     if (mw == 2) return rowDirect<Op, T, C, 2, kKeepAlpha>;
     if (mw == 3) return rowDirect<Op, T, C, 3, kKeepAlpha>;

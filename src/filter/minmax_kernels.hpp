@@ -14,12 +14,14 @@
 #pragma once
 
 #include <emmintrin.h>
+#include <tmmintrin.h>
 
 #include <cstddef>
 #include <cstring>
 #include <limits>
 
 #include "frame/base.hpp"
+#include "frame/cpu.hpp"
 
 namespace KROI_TIER::filter::minmax {
 
@@ -258,6 +260,77 @@ void rowDoubling(const T* in, T* work, T* out, long width, int m)
     } else {
         columns<Op, T, kKeepAlpha, 4>(span, out, n);
     }
+}
+
+// One-channel 8u rows with windows of M = 5 .. 32 pixels in a single sweep (SSSE3 byte
+// alignment, so run only on processors with SSE4.1).  The four-pixel extremes come from
+// unaligned loads; the wider spans are the same vectors realigned in registers, so no
+// intermediate row is stored and read back.  Loads and shuffles go to different units,
+// which is what makes this cheaper than the passes of rowDoubling.  Returns the number of
+// outputs made: the sweep stops where its next vector would read past the widened row, and
+// the caller finishes the row.
+// The extremes of in[y .. y+3] for y = x .. x+15.
+template <class Op>
+KROI_SSE41 inline __m128i quad8u_sse41(const Kro8u* in)
+{
+    using S = Simd<Kro8u>;
+    const __m128i v = Op::absorb(S::load(in), S::load(in + 1));
+    return Op::absorb(v, Op::absorb(S::load(in + 2), S::load(in + 3)));
+}
+
+// Spans of K <= 16 pixels from the four-pixel extremes lo (at x) and hi (at x+16): the
+// spans at 0, 4, 8 and K-4, or closer for short windows.
+template <class Op, int K>
+KROI_SSE41 inline __m128i span8u_sse41(__m128i lo, __m128i hi)
+{
+    constexpr int o1 = K - 4 < 4 ? K - 4 : 4, o2 = K - 4 < 8 ? K - 4 : 8, o3 = K - 4;
+    const __m128i v = Op::absorb(lo, _mm_alignr_epi8(hi, lo, o1));
+    return Op::absorb(v, Op::absorb(_mm_alignr_epi8(hi, lo, o2), _mm_alignr_epi8(hi, lo, o3)));
+}
+
+template <class Op, int M>
+KROI_SSE41 long rowSpans8u_sse41(const Kro8u* in, Kro8u* out, long width)
+{
+    using S = Simd<Kro8u>;
+    using R = S::R;
+    static_assert(M >= 5 && M <= 32);
+    const long len = width + M - 1; // pixels of the widened row
+    constexpr int K = M <= 16 ? M : 16;
+    long x = 0;
+    if constexpr (M <= 16) {
+        // out(x) = span(q(x), q(x+16)), which reads up to in[x+34].
+        if (len < 35) return 0;
+        R q = quad8u_sse41<Op>(in);
+        for (; x + 16 <= width && x + 35 <= len; x += 16) {
+            const R qn = quad8u_sse41<Op>(in + x + 16);
+            S::store(out + x, span8u_sse41<Op, K>(q, qn));
+            q = qn;
+        }
+    } else {
+        // out(x) = the extreme of the 16-pixel spans at x and x+M-16, the second realigned
+        // from the spans at x and x+16; reads up to in[x+50].
+        if (len < 51) return 0;
+        R q = quad8u_sse41<Op>(in + 16);
+        R v = span8u_sse41<Op, K>(quad8u_sse41<Op>(in), q);
+        for (; x + 16 <= width && x + 51 <= len; x += 16) {
+            const R qn = quad8u_sse41<Op>(in + x + 32);
+            const R vn = span8u_sse41<Op, K>(q, qn);
+            S::store(out + x, Op::absorb(v, _mm_alignr_epi8(vn, v, M - 16)));
+            v = vn;
+            q = qn;
+        }
+    }
+    return x;
+}
+
+// The kernel of one-channel 8u rows with windows of M pixels on processors with SSE4.1:
+// the single sweep, then rowDoubling for the few outputs at the end of the row that it
+// leaves.  `work` may be `in`: rowDoubling writes work[i] before it reads in[done + i].
+template <class Op, int M>
+void rowSpans8u(const Kro8u* in, Kro8u* work, Kro8u* out, long width, int m)
+{
+    const long done = rowSpans8u_sse41<Op, M>(in, out, width);
+    if (done < width) rowDoubling<Op, Kro8u, 1, false>(in + done, work, out + done, width - done, m);
 }
 
 // Any window, in blocks of m pixels (the van Herk / Gil-Werman scheme): the extreme of the

@@ -265,7 +265,8 @@ void sweepLong(kt::Rng& rng)
                                     kroBorderConstant | kroBorderInMemRight};
     int i = 0;
     for (const auto& m : members<T>())
-        for (KroiSize mk : {KroiSize{3, 3}, KroiSize{2, 3}, KroiSize{5, 9}, KroiSize{33, 4}}) {
+        for (KroiSize mk : {KroiSize{3, 3}, KroiSize{2, 3}, KroiSize{5, 9}, KroiSize{33, 4}, KroiSize{16, 5}, KroiSize{17, 3},
+                            KroiSize{31, 6}, KroiSize{32, 2}}) {
             expectRule(m, {1030, 9, mk.width, mk.height, codes[i++ % 3], 17}, rng);
             if (::testing::Test::HasFailure()) return;
         }
