@@ -86,19 +86,31 @@ inline KroStatus bufferSize(KroiSize roi, KroiSize mask, KroDataType dataType, i
 template <class T>
 using RowKernel = void (*)(const T* in, T* work, T* out, long width, int m);
 
-// The single-sweep kernels of one-channel 8u rows, by window (5 .. 32 pixels).
-template <class Op, int... Ms>
-RowKernel<Kro8u> spansKernel(int mw, std::integer_sequence<int, Ms...>)
+// The single-sweep kernels (SSE4.1) by window from 5 pixels: one-channel 8u rows up to 32,
+// three-channel 8u and one-channel 32f rows up to 16 (wider windows need so many spans
+// there that the passes of rowDoubling are as fast).
+template <class Op, class T, int C, int... Ms>
+RowKernel<T> spansKernel(int mw, std::integer_sequence<int, Ms...>)
 {
-    static constexpr RowKernel<Kro8u> table[] = {rowSpans8u<Op, Ms + 5>...};
-    return table[mw - 5];
+    if constexpr (std::is_same_v<T, Kro8u> && C == 1) {
+        static constexpr RowKernel<T> table[] = {rowSpans8u<Op, Ms + 5>...};
+        return table[mw - 5];
+    } else {
+        static constexpr RowKernel<T> table[] = {rowSpans<Op, T, C, Ms + 5>...};
+        return table[mw - 5];
+    }
 }
 
 template <class Op, class T, int C, bool kAlpha, bool kKeepAlpha>
 RowKernel<T> rowKernel(int mw)
 {
-    if constexpr (std::is_same_v<T, Kro8u> && C == 1)
-        if (mw >= 5 && mw <= 32 && cpu::hasSse41()) return spansKernel<Op>(mw, std::make_integer_sequence<int, 28>{});
+    constexpr bool kSpans = (std::is_same_v<T, Kro8u> && (C == 1 || C == 3)) ||
+                            (std::is_same_v<T, Kro32f> && C == 1);
+    if constexpr (kSpans) {
+        constexpr int kWidest = C == 1 && sizeof(T) == 1 ? 32 : 16;
+        if (mw >= 5 && mw <= kWidest && cpu::hasSse41())
+            return spansKernel<Op, T, C>(mw, std::make_integer_sequence<int, kWidest - 4>{});
+    }
     if (mw == 1) return rowDirect<Op, T, C, 1, kKeepAlpha>;
     if (mw == 2) return rowDirect<Op, T, C, 2, kKeepAlpha>;
     if (mw == 3) return rowDirect<Op, T, C, 3, kKeepAlpha>;

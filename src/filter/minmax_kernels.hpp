@@ -19,6 +19,8 @@
 #include <cstddef>
 #include <cstring>
 #include <limits>
+#include <type_traits>
+#include <utility>
 
 #include "frame/base.hpp"
 #include "frame/cpu.hpp"
@@ -321,6 +323,71 @@ KROI_SSE41 long rowSpans8u_sse41(const Kro8u* in, Kro8u* out, long width)
         }
     }
     return x;
+}
+
+// The same single sweep for other layouts and element types, windows of M = 5 .. 32: the
+// four-pixel extremes Q of a short history of vectors, and the window as the extreme of the
+// spans of four at pixels 0, 4, 8, ... and M-4, each span realigned from two neighbouring Q
+// vectors (whole ones where the offset falls on a vector).  Returns the elements made.
+template <class T, int B>
+KROI_SSE41 inline typename Simd<T>::R bytesAt_sse41(typename Simd<T>::R lo, typename Simd<T>::R hi)
+{
+    if constexpr (B == 0) {
+        return lo;
+    } else if constexpr (std::is_same_v<T, Kro32f>) {
+        return _mm_castsi128_ps(_mm_alignr_epi8(_mm_castps_si128(hi), _mm_castps_si128(lo), B));
+    } else {
+        return _mm_alignr_epi8(hi, lo, B);
+    }
+}
+
+template <class Op, class T, int C, int M, int... Ks>
+KROI_SSE41 inline typename Simd<T>::R spans_sse41(const typename Simd<T>::R* q, std::integer_sequence<int, Ks...>)
+{
+    constexpr long L = Simd<T>::L;
+    auto v = q[0];
+    ((v = Op::absorb(v, bytesAt_sse41<T, int((((Ks + 1) * 4 < M - 4 ? (Ks + 1) * 4 : M - 4) * C) % L * sizeof(T))>(
+                            q[(((Ks + 1) * 4 < M - 4 ? (Ks + 1) * 4 : M - 4) * C) / L],
+                            q[(((Ks + 1) * 4 < M - 4 ? (Ks + 1) * 4 : M - 4) * C) / L + 1]))),
+     ...);
+    return v;
+}
+
+template <class Op, class T, int C, int M>
+KROI_SSE41 long rowSpans_sse41(const T* in, T* out, long width)
+{
+    using S = Simd<T>;
+    using R = typename S::R;
+    static_assert(M >= 5 && M <= 32);
+    constexpr long L = S::L;
+    constexpr int H = int(long(M - 4) * C / L) + 2; // Q vectors held: up to the last span's pair
+    constexpr long reach = (H - 1) * L + 3 * C + L;  // elements read ahead of the output
+    const long n = width * C, len = (width + M - 1) * C;
+    if (len < reach) return 0;
+    R q[H];
+    for (int h = 0; h < H - 1; ++h) {
+        const T* p = in + h * L;
+        q[h] = Op::absorb(Op::absorb(Op::first(S::load(p)), S::load(p + C)),
+                          Op::absorb(S::load(p + 2 * C), S::load(p + 3 * C)));
+    }
+    long x = 0;
+    for (; x + L <= n && x + reach <= len; x += L) {
+        const T* p = in + x + (H - 1) * L;
+        q[H - 1] = Op::absorb(Op::absorb(Op::first(S::load(p)), S::load(p + C)),
+                              Op::absorb(S::load(p + 2 * C), S::load(p + 3 * C)));
+        S::store(out + x, spans_sse41<Op, T, C, M>(q, std::make_integer_sequence<int, (M + 3) / 4 - 1>{}));
+        for (int h = 0; h < H - 1; ++h) q[h] = q[h + 1];
+    }
+    return x;
+}
+
+// Rows with windows of M pixels on processors with SSE4.1, for the layouts whose vectors
+// hold whole spans (C = 1, or 8u C = 3): the single sweep, then rowDoubling for the rest.
+template <class Op, class T, int C, int M>
+void rowSpans(const T* in, T* work, T* out, long width, int m)
+{
+    const long done = rowSpans_sse41<Op, T, C, M>(in, out, width) / C; // whole pixels
+    if (done < width) rowDoubling<Op, T, C, false>(in + done * C, work, out + done * C, width - done, m);
 }
 
 // The kernel of one-channel 8u rows with windows of M pixels on processors with SSE4.1:
