@@ -24,6 +24,7 @@
 
 #include <cstddef>
 #include <cstring>
+#include <utility>
 
 #include "filter/border_rules.hpp"
 #include "filter/border_stage.hpp"
@@ -85,9 +86,31 @@ inline KroStatus bufferSize(KroiSize roi, KroiSize mask, KroDataType dataType, i
 template <class T>
 using RowKernel = void (*)(const T* in, T* work, T* out, long width, int m);
 
+// The single-sweep kernels (SSE4.1) by window from 5 pixels: one-channel 8u rows up to 32,
+// three-channel 8u and one-channel 32f rows up to 16 (wider windows need so many spans
+// there that the passes of rowDoubling are as fast).
+template <class Op, class T, int C, int... Ms>
+RowKernel<T> spansKernel(int mw, std::integer_sequence<int, Ms...>)
+{
+    if constexpr (std::is_same_v<T, Kro8u> && C == 1) {
+        static constexpr RowKernel<T> table[] = {rowSpans8u<Op, Ms + 5>...};
+        return table[mw - 5];
+    } else {
+        static constexpr RowKernel<T> table[] = {rowSpans<Op, T, C, Ms + 5>...};
+        return table[mw - 5];
+    }
+}
+
 template <class Op, class T, int C, bool kAlpha, bool kKeepAlpha>
 RowKernel<T> rowKernel(int mw)
 {
+    constexpr bool kSpans = (std::is_same_v<T, Kro8u> && (C == 1 || C == 3)) ||
+                            (std::is_same_v<T, Kro32f> && C == 1);
+    if constexpr (kSpans) {
+        constexpr int kWidest = C == 1 && sizeof(T) == 1 ? 32 : 16;
+        if (mw >= 5 && mw <= kWidest && cpu::hasSse41())
+            return spansKernel<Op, T, C>(mw, std::make_integer_sequence<int, kWidest - 4>{});
+    }
     if (mw == 1) return rowDirect<Op, T, C, 1, kKeepAlpha>;
     if (mw == 2) return rowDirect<Op, T, C, 2, kKeepAlpha>;
     if (mw == 3) return rowDirect<Op, T, C, 3, kKeepAlpha>;
@@ -114,25 +137,38 @@ void run(const border::Rows<T, C>& rows, bool staged, T* dst, std::ptrdiff_t dst
     const bool fetch = !(f.memLeft && f.memRight);
     T* temp = reinterpret_cast<T*>(area);
 
-    // Pixels x0 .. x0+count-1 of the widened row around `r` into temp: the part inside the
-    // row in one copy, the rest pixel by pixel through the border rule.
-    auto piece = [&](const T* r, int64_t x0, int64_t count) {
-        const int64_t in0 = x0 < 0 ? 0 : x0, in1 = x0 + count < W ? x0 + count : W;
-        std::memcpy(temp + (in0 - x0) * C, r + in0 * C, sizeof(T) * C * std::size_t(in1 - in0));
-        for (int64_t x = x0; x < in0; ++x) std::memcpy(temp + (x - x0) * C, rows.outside(r, r, x), sizeof(T) * C);
-        for (int64_t x = in1; x < x0 + count; ++x)
-            std::memcpy(temp + (x - x0) * C, rows.outside(r, r, x), sizeof(T) * C);
+    // Where each column outside the row reads from, as an element offset from the row's
+    // first pixel (kConstant: the border value).  The rule depends on the column only, so it
+    // is worked out once per call and a widened row then costs one copy and a few pixels.
+    constexpr int kMapMax = 64;
+    constexpr long kConstant = -(long(1) << 62);
+    long leftMap[kMapMax], rightMap[kMapMax];
+    const bool mapped = f.left <= kMapMax && f.right <= kMapMax;
+    auto offset = [&](int64_t x) {
+        if ((x < 0 && f.memLeft) || (x >= W && f.memRight)) return long(x * C);
+        const int64_t s = border::sourceIndex(f.mode, x, W);
+        return s < 0 ? kConstant : long(s * C);
     };
-    // The outputs at the ends of a row, whose windows reach past a side.
-    auto edges = [&](const T* r, T* out, RowKernel<T> kernel) {
-        if (f.left > 0) {
-            piece(r, -f.left, f.left + mw - 1);
-            kernel(temp, temp, out, f.left, mw);
-        }
-        if (f.right > 0) {
-            piece(r, W - f.right - f.left, f.right + mw - 1);
-            kernel(temp, temp, out + (W - f.right) * C, f.right, mw);
-        }
+    if (fetch && mapped) {
+        for (int k = 0; k < f.left; ++k) leftMap[k] = offset(k - f.left);
+        for (int k = 0; k < f.right; ++k) rightMap[k] = offset(W + k);
+    }
+    auto pixel = [&](T* d, const T* r, long off) {
+        const T* p = off == kConstant ? rows.value : r + off;
+        for (int c = 0; c < C; ++c) d[c] = p[c];
+    };
+    // The widened row around `r` (null: a constant row) into `out`.
+    auto fetchWide = [&](const T* r, T* out) {
+        if (!r || !mapped) return rows.fetchRow(r, r, out);
+        for (int k = 0; k < f.left; ++k) pixel(out + k * C, r, leftMap[k]);
+        std::memcpy(out + f.left * C, r, sizeof(T) * std::size_t(n));
+        for (int k = 0; k < f.right; ++k) pixel(out + (f.left + W + k) * C, r, rightMap[k]);
+    };
+    // Pixels x0 .. x0+count-1 of the widened row around r (not null) into `out`: a short
+    // piece at one end of the row.
+    auto piece = [&](const T* r, int64_t x0, int64_t count, T* out) {
+        for (int64_t x = x0; x < x0 + count; ++x)
+            pixel(out + (x - x0) * C, r, x < 0 ? leftMap[x + f.left] : x >= W ? rightMap[x - W] : long(x * C));
     };
     // Row result of virtual row y into `out`.
     auto rowPass = [&](int64_t y, T* out, RowKernel<T> kernel) {
@@ -140,13 +176,8 @@ void run(const border::Rows<T, C>& rows, bool staged, T* dst, std::ptrdiff_t dst
         if (r && !fetch) {
             const T* in = r - f.left * C;
             kernel(in, staged ? const_cast<T*>(in) : temp, out, W, mw);
-        } else if (r && W >= mw) {
-            // The inner outputs read the row in place; the few at each end, whose windows
-            // reach past the side, read short pieces of the widened row.
-            kernel(r, temp, out + f.left * C, W - mw + 1, mw);
-            edges(r, out, kernel);
         } else {
-            rows.fetchRow(r, r, temp);
+            fetchWide(r, temp);
             kernel(temp, temp, out, W, mw);
         }
     };
@@ -174,25 +205,44 @@ void run(const border::Rows<T, C>& rows, bool staged, T* dst, std::ptrdiff_t dst
         using Fused = void (*)(const T*, const T*, const T*, const T*, T*, T*, T*, T*, long);
         const Fused fused = mw == 1 ? rowsAndPair3<Op, T, C, 1, kAlpha>
                           : mw == 2 ? rowsAndPair3<Op, T, C, 2, kAlpha> : rowsAndPair3<Op, T, C, 3, kAlpha>;
+        // Widened copies of the two new rows when they are not read in place: the first and
+        // third rows of area S (the second is the fourth ring slot).
+        T* wideA = temp;
+        T* wideB = temp + 2 * (W + mw - 1) * C;
+        auto widened = [&](int64_t y, T* copy) -> const T* {
+            const T* r = rows.row(y);
+            if (r && !fetch) return r - f.left * C;
+            fetchWide(r, copy);
+            return copy;
+        };
+        // Both new rows at once: their row results and the pair of outputs in one pass, over
+        // pixels x0 .. x0+count-1 of the output rows.
+        auto fusedAt = [&](int64_t y, const T* ra, const T* rb, long x0, long count) {
+            const long o = x0 * C;
+            fused(ra, rb, R(y) + o, R(y + 1) + o, R(y + 2) + o, R(y + 3) + o, dstRow(y) + o, dstRow(y + 1) + o,
+                  count * C);
+        };
+        // Short rows are cheaper to copy whole than to split into three calls.
+        const bool inner = fetch && mapped && W >= mw && n * sizeof(T) > 1024;
         for (int64_t y = 0; y < H; y += 2) {
-            const T* ra = y + 1 < H && made == y + 2 && mw <= 3 ? rows.row(y + 2 - f.top) : nullptr;
-            const T* rb = ra ? rows.row(y + 3 - f.top) : nullptr;
-            if (rb && (!fetch || W >= mw)) {
-                // Both new rows straight from memory: their row results and the pair of
-                // outputs in one pass over the inner part, the ends as usual.
-                const long x0 = fetch ? f.left : 0, inner = fetch ? W - mw + 1 : W;
-                if (fetch) {
-                    edges(ra, R(y + 2), k);
-                    edges(rb, R(y + 3), k);
-                }
-                const long o = x0 * C;
-                fused(ra - (f.left - x0) * C, rb - (f.left - x0) * C, R(y) + o, R(y + 1) + o, R(y + 2) + o,
-                      R(y + 3) + o, dstRow(y) + o, dstRow(y + 1) + o, inner * C);
-                if (fetch) {
-                    columnsPair3<Op, T, kAlpha>(R(y), R(y + 1), R(y + 2), R(y + 3), dstRow(y), dstRow(y + 1), o);
-                    const long e = (W - f.right) * C;
-                    columnsPair3<Op, T, kAlpha>(R(y) + e, R(y + 1) + e, R(y + 2) + e, R(y + 3) + e, dstRow(y) + e,
-                                                dstRow(y + 1) + e, n - e);
+            if (y + 1 < H && made == y + 2 && mw <= 3) {
+                const T* ra = rows.row(y + 2 - f.top);
+                const T* rb = rows.row(y + 3 - f.top);
+                if (ra && rb && inner) {
+                    // The inner outputs read the rows in place; the few at each end, whose
+                    // windows reach past a side, read short pieces of the widened rows.
+                    fusedAt(y, ra, rb, f.left, W - mw + 1);
+                    const long w = mw - 1;
+                    for (int side = 0; side < 2; ++side) {
+                        const int count = side ? f.right : f.left;
+                        const int64_t x0 = side ? W - f.right : 0;
+                        if (count == 0) continue;
+                        piece(ra, x0 - f.left, count + w, wideA);
+                        piece(rb, x0 - f.left, count + w, wideB);
+                        fusedAt(y, wideA, wideB, x0, count);
+                    }
+                } else {
+                    fusedAt(y, widened(y + 2 - f.top, wideA), widened(y + 3 - f.top, wideB), 0, W);
                 }
                 made = y + 4;
             } else if (y + 1 < H) {

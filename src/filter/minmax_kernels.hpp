@@ -14,12 +14,16 @@
 #pragma once
 
 #include <emmintrin.h>
+#include <tmmintrin.h>
 
 #include <cstddef>
 #include <cstring>
 #include <limits>
+#include <type_traits>
+#include <utility>
 
 #include "frame/base.hpp"
+#include "frame/cpu.hpp"
 
 namespace KROI_TIER::filter::minmax {
 
@@ -142,6 +146,34 @@ struct Out {
     }
 };
 
+// Two vectors of results of one step.
+template <class T>
+struct Two {
+    typename Simd<T>::R a, b;
+};
+
+// ---- the element loop ----------------------------------------------------------------------
+
+// Runs a kernel over elements 0 .. n-1 in vectors of L lanes: compute(i) gives the results of
+// the vector at i, put(i, r) stores them.  The tail is one more vector ending at n, which
+// overlaps the last full one instead of finishing lane by lane; it is computed before the
+// loop, so that a pass running in place (which reads only at and after the element it
+// writes) still reads the original values there.  Rows shorter than a vector go through
+// one(i), the scalar definition.
+template <long L, class Compute, class Put, class One>
+inline void sweep(long n, Compute compute, Put put, One one)
+{
+    if (n < L) {
+        for (long i = 0; i < n; ++i) one(i);
+        return;
+    }
+    const auto last = compute(n - L);
+    long i = 0;
+#pragma GCC unroll 2
+    for (; i + L < n; i += L) put(i, compute(i));
+    put(n - L, last);
+}
+
 // ---- row kernels ---------------------------------------------------------------------------
 
 // The widest mask whose row pass doubles; beyond it the block scheme (rowBlocks) is cheaper,
@@ -154,19 +186,19 @@ void rowDirect(const T* in, T*, T* out, long width, int)
 {
     using S = Simd<T>;
     const Out<T, kKeepAlpha> o;
-    const long n = width * C;
-    long i = 0;
-#pragma GCC unroll 2
-    for (; i + S::L <= n; i += S::L) {
-        auto acc = Op::first(S::load(in + i));
-        for (int k = 1; k < M; ++k) acc = Op::absorb(acc, S::load(in + i + k * C));
-        o.vec(out + i, acc);
-    }
-    for (; i < n; ++i) {
-        T acc = Op::first(in[i]);
-        for (int k = 1; k < M; ++k) acc = Op::absorb(acc, in[i + k * C]);
-        o.one(out, i, acc);
-    }
+    sweep<S::L>(
+        width * C,
+        [&](long i) {
+            auto acc = Op::first(S::load(in + i));
+            for (int k = 1; k < M; ++k) acc = Op::absorb(acc, S::load(in + i + k * C));
+            return acc;
+        },
+        [&](long i, typename S::R v) { o.vec(out + i, v); },
+        [&](long i) {
+            T acc = Op::first(in[i]);
+            for (int k = 1; k < M; ++k) acc = Op::absorb(acc, in[i + k * C]);
+            o.one(out, i, acc);
+        });
 }
 
 // a[i] absorbs b[i] into d[i], i < n; d may be a.
@@ -174,9 +206,9 @@ template <class Op, class T, class O>
 inline void pairs(const T* a, const T* b, T* d, long n, const O& o)
 {
     using S = Simd<T>;
-    long i = 0;
-    for (; i + S::L <= n; i += S::L) o.vec(d + i, Op::absorb(S::load(a + i), S::load(b + i)));
-    for (; i < n; ++i) o.one(d, i, Op::absorb(a[i], b[i]));
+    sweep<S::L>(
+        n, [&](long i) { return Op::absorb(S::load(a + i), S::load(b + i)); },
+        [&](long i, typename S::R v) { o.vec(d + i, v); }, [&](long i) { o.one(d, i, Op::absorb(a[i], b[i])); });
 }
 
 // d[i] = the extreme of a[i], a[i+s], a[i+2s], a[i+3s] (s in elements), i < n; d may be a.
@@ -185,17 +217,19 @@ template <class Op, class T, bool kFirst>
 void quads(const T* a, T* d, long n, long s)
 {
     using S = Simd<T>;
-    long i = 0;
-    for (; i + S::L <= n; i += S::L) {
-        auto v = S::load(a + i);
-        if constexpr (kFirst) v = Op::first(v);
-        v = Op::absorb(Op::absorb(Op::absorb(v, S::load(a + i + s)), S::load(a + i + 2 * s)), S::load(a + i + 3 * s));
-        S::store(d + i, v);
-    }
-    for (; i < n; ++i) {
-        T v = kFirst ? Op::first(a[i]) : a[i];
-        d[i] = Op::absorb(Op::absorb(Op::absorb(v, a[i + s]), a[i + 2 * s]), a[i + 3 * s]);
-    }
+    sweep<S::L>(
+        n,
+        [&](long i) {
+            auto v = S::load(a + i);
+            if constexpr (kFirst) v = Op::first(v);
+            return Op::absorb(Op::absorb(Op::absorb(v, S::load(a + i + s)), S::load(a + i + 2 * s)),
+                              S::load(a + i + 3 * s));
+        },
+        [&](long i, typename S::R v) { S::store(d + i, v); },
+        [&](long i) {
+            T v = kFirst ? Op::first(a[i]) : a[i];
+            d[i] = Op::absorb(Op::absorb(Op::absorb(v, a[i + s]), a[i + 2 * s]), a[i + 3 * s]);
+        });
 }
 
 template <class Op, class T, bool kKeepAlpha, int K>
@@ -228,6 +262,142 @@ void rowDoubling(const T* in, T* work, T* out, long width, int m)
     } else {
         columns<Op, T, kKeepAlpha, 4>(span, out, n);
     }
+}
+
+// One-channel 8u rows with windows of M = 5 .. 32 pixels in a single sweep (SSSE3 byte
+// alignment, so run only on processors with SSE4.1).  The four-pixel extremes come from
+// unaligned loads; the wider spans are the same vectors realigned in registers, so no
+// intermediate row is stored and read back.  Loads and shuffles go to different units,
+// which is what makes this cheaper than the passes of rowDoubling.  Returns the number of
+// outputs made: the sweep stops where its next vector would read past the widened row, and
+// the caller finishes the row.
+// The extremes of in[y .. y+3] for y = x .. x+15.
+template <class Op>
+KROI_SSE41 inline __m128i quad8u_sse41(const Kro8u* in)
+{
+    using S = Simd<Kro8u>;
+    const __m128i v = Op::absorb(S::load(in), S::load(in + 1));
+    return Op::absorb(v, Op::absorb(S::load(in + 2), S::load(in + 3)));
+}
+
+// Spans of K <= 16 pixels from the four-pixel extremes lo (at x) and hi (at x+16): the
+// spans at 0, 4, 8 and K-4, or closer for short windows.
+template <class Op, int K>
+KROI_SSE41 inline __m128i span8u_sse41(__m128i lo, __m128i hi)
+{
+    constexpr int o1 = K - 4 < 4 ? K - 4 : 4, o2 = K - 4 < 8 ? K - 4 : 8, o3 = K - 4;
+    const __m128i v = Op::absorb(lo, _mm_alignr_epi8(hi, lo, o1));
+    return Op::absorb(v, Op::absorb(_mm_alignr_epi8(hi, lo, o2), _mm_alignr_epi8(hi, lo, o3)));
+}
+
+template <class Op, int M>
+KROI_SSE41 long rowSpans8u_sse41(const Kro8u* in, Kro8u* out, long width)
+{
+    using S = Simd<Kro8u>;
+    using R = S::R;
+    static_assert(M >= 5 && M <= 32);
+    const long len = width + M - 1; // pixels of the widened row
+    constexpr int K = M <= 16 ? M : 16;
+    long x = 0;
+    if constexpr (M <= 16) {
+        // out(x) = span(q(x), q(x+16)), which reads up to in[x+34].
+        if (len < 35) return 0;
+        R q = quad8u_sse41<Op>(in);
+        for (; x + 16 <= width && x + 35 <= len; x += 16) {
+            const R qn = quad8u_sse41<Op>(in + x + 16);
+            S::store(out + x, span8u_sse41<Op, K>(q, qn));
+            q = qn;
+        }
+    } else {
+        // out(x) = the extreme of the 16-pixel spans at x and x+M-16, the second realigned
+        // from the spans at x and x+16; reads up to in[x+50].
+        if (len < 51) return 0;
+        R q = quad8u_sse41<Op>(in + 16);
+        R v = span8u_sse41<Op, K>(quad8u_sse41<Op>(in), q);
+        for (; x + 16 <= width && x + 51 <= len; x += 16) {
+            const R qn = quad8u_sse41<Op>(in + x + 32);
+            const R vn = span8u_sse41<Op, K>(q, qn);
+            S::store(out + x, Op::absorb(v, _mm_alignr_epi8(vn, v, M - 16)));
+            v = vn;
+            q = qn;
+        }
+    }
+    return x;
+}
+
+// The same single sweep for other layouts and element types, windows of M = 5 .. 32: the
+// four-pixel extremes Q of a short history of vectors, and the window as the extreme of the
+// spans of four at pixels 0, 4, 8, ... and M-4, each span realigned from two neighbouring Q
+// vectors (whole ones where the offset falls on a vector).  Returns the elements made.
+template <class T, int B>
+KROI_SSE41 inline typename Simd<T>::R bytesAt_sse41(typename Simd<T>::R lo, typename Simd<T>::R hi)
+{
+    if constexpr (B == 0) {
+        return lo;
+    } else if constexpr (std::is_same_v<T, Kro32f>) {
+        return _mm_castsi128_ps(_mm_alignr_epi8(_mm_castps_si128(hi), _mm_castps_si128(lo), B));
+    } else {
+        return _mm_alignr_epi8(hi, lo, B);
+    }
+}
+
+template <class Op, class T, int C, int M, int... Ks>
+KROI_SSE41 inline typename Simd<T>::R spans_sse41(const typename Simd<T>::R* q, std::integer_sequence<int, Ks...>)
+{
+    constexpr long L = Simd<T>::L;
+    auto v = q[0];
+    ((v = Op::absorb(v, bytesAt_sse41<T, int((((Ks + 1) * 4 < M - 4 ? (Ks + 1) * 4 : M - 4) * C) % L * sizeof(T))>(
+                            q[(((Ks + 1) * 4 < M - 4 ? (Ks + 1) * 4 : M - 4) * C) / L],
+                            q[(((Ks + 1) * 4 < M - 4 ? (Ks + 1) * 4 : M - 4) * C) / L + 1]))),
+     ...);
+    return v;
+}
+
+template <class Op, class T, int C, int M>
+KROI_SSE41 long rowSpans_sse41(const T* in, T* out, long width)
+{
+    using S = Simd<T>;
+    using R = typename S::R;
+    static_assert(M >= 5 && M <= 32);
+    constexpr long L = S::L;
+    constexpr int H = int(long(M - 4) * C / L) + 2; // Q vectors held: up to the last span's pair
+    constexpr long reach = (H - 1) * L + 3 * C + L;  // elements read ahead of the output
+    const long n = width * C, len = (width + M - 1) * C;
+    if (len < reach) return 0;
+    R q[H];
+    for (int h = 0; h < H - 1; ++h) {
+        const T* p = in + h * L;
+        q[h] = Op::absorb(Op::absorb(Op::first(S::load(p)), S::load(p + C)),
+                          Op::absorb(S::load(p + 2 * C), S::load(p + 3 * C)));
+    }
+    long x = 0;
+    for (; x + L <= n && x + reach <= len; x += L) {
+        const T* p = in + x + (H - 1) * L;
+        q[H - 1] = Op::absorb(Op::absorb(Op::first(S::load(p)), S::load(p + C)),
+                              Op::absorb(S::load(p + 2 * C), S::load(p + 3 * C)));
+        S::store(out + x, spans_sse41<Op, T, C, M>(q, std::make_integer_sequence<int, (M + 3) / 4 - 1>{}));
+        for (int h = 0; h < H - 1; ++h) q[h] = q[h + 1];
+    }
+    return x;
+}
+
+// Rows with windows of M pixels on processors with SSE4.1, for the layouts whose vectors
+// hold whole spans (C = 1, or 8u C = 3): the single sweep, then rowDoubling for the rest.
+template <class Op, class T, int C, int M>
+void rowSpans(const T* in, T* work, T* out, long width, int m)
+{
+    const long done = rowSpans_sse41<Op, T, C, M>(in, out, width) / C; // whole pixels
+    if (done < width) rowDoubling<Op, T, C, false>(in + done * C, work, out + done * C, width - done, m);
+}
+
+// The kernel of one-channel 8u rows with windows of M pixels on processors with SSE4.1:
+// the single sweep, then rowDoubling for the few outputs at the end of the row that it
+// leaves.  `work` may be `in`: rowDoubling writes work[i] before it reads in[done + i].
+template <class Op, int M>
+void rowSpans8u(const Kro8u* in, Kro8u* work, Kro8u* out, long width, int m)
+{
+    const long done = rowSpans8u_sse41<Op, M>(in, out, width);
+    if (done < width) rowDoubling<Op, Kro8u, 1, false>(in + done, work, out + done, width - done, m);
 }
 
 // Any window, in blocks of m pixels (the van Herk / Gil-Werman scheme): the extreme of the
@@ -270,18 +440,19 @@ void columns(const T* const* rows, T* d, long n)
     const Out<T, kKeepAlpha> o;
     const T* r[K];
     for (int k = 0; k < K; ++k) r[k] = rows[k];
-    long i = 0;
-#pragma GCC unroll 2
-    for (; i + S::L <= n; i += S::L) {
-        auto acc = S::load(r[0] + i);
-        for (int k = 1; k < K; ++k) acc = Op::absorb(acc, S::load(r[k] + i));
-        o.vec(d + i, acc);
-    }
-    for (; i < n; ++i) {
-        T acc = r[0][i];
-        for (int k = 1; k < K; ++k) acc = Op::absorb(acc, r[k][i]);
-        o.one(d, i, acc);
-    }
+    sweep<S::L>(
+        n,
+        [&](long i) {
+            auto acc = S::load(r[0] + i);
+            for (int k = 1; k < K; ++k) acc = Op::absorb(acc, S::load(r[k] + i));
+            return acc;
+        },
+        [&](long i, typename S::R v) { o.vec(d + i, v); },
+        [&](long i) {
+            T acc = r[0][i];
+            for (int k = 1; k < K; ++k) acc = Op::absorb(acc, r[k][i]);
+            o.one(d, i, acc);
+        });
 }
 
 // Two outputs of a three-row mask from four row results, sharing the middle pair:
@@ -290,19 +461,23 @@ template <class Op, class T, bool kKeepAlpha>
 void columnsPair3(const T* r0, const T* r1, const T* r2, const T* r3, T* d0, T* d1, long n)
 {
     using S = Simd<T>;
+    using R = typename S::R;
     const Out<T, kKeepAlpha> o;
-    long i = 0;
-#pragma GCC unroll 2
-    for (; i + S::L <= n; i += S::L) {
-        const auto mid = Op::absorb(S::load(r1 + i), S::load(r2 + i));
-        o.vec(d0 + i, Op::absorb(mid, S::load(r0 + i)));
-        o.vec(d1 + i, Op::absorb(mid, S::load(r3 + i)));
-    }
-    for (; i < n; ++i) {
-        const T mid = Op::absorb(r1[i], r2[i]);
-        o.one(d0, i, Op::absorb(mid, r0[i]));
-        o.one(d1, i, Op::absorb(mid, r3[i]));
-    }
+    sweep<S::L>(
+        n,
+        [&](long i) {
+            const R mid = Op::absorb(S::load(r1 + i), S::load(r2 + i));
+            return Two<T>{Op::absorb(mid, S::load(r0 + i)), Op::absorb(mid, S::load(r3 + i))};
+        },
+        [&](long i, Two<T> v) {
+            o.vec(d0 + i, v.a);
+            o.vec(d1 + i, v.b);
+        },
+        [&](long i) {
+            const T mid = Op::absorb(r1[i], r2[i]);
+            o.one(d0, i, Op::absorb(mid, r0[i]));
+            o.one(d1, i, Op::absorb(mid, r3[i]));
+        });
 }
 
 // Two new rows and a pair of outputs of a three-row mask in one pass, for row windows of
@@ -313,32 +488,40 @@ template <class Op, class T, int C, int M, bool kKeepAlpha>
 void rowsAndPair3(const T* ina, const T* inb, const T* r0, const T* r1, T* ra, T* rb, T* d0, T* d1, long n)
 {
     using S = Simd<T>;
+    using R = typename S::R;
     const Out<T, kKeepAlpha> o;
-    long i = 0;
-    for (; i + S::L <= n; i += S::L) {
-        auto a = Op::first(S::load(ina + i)), b = Op::first(S::load(inb + i));
-        for (int k = 1; k < M; ++k) {
-            a = Op::absorb(a, S::load(ina + i + k * C));
-            b = Op::absorb(b, S::load(inb + i + k * C));
-        }
-        S::store(ra + i, a);
-        S::store(rb + i, b);
-        const auto mid = Op::absorb(S::load(r1 + i), a);
-        o.vec(d0 + i, Op::absorb(mid, S::load(r0 + i)));
-        o.vec(d1 + i, Op::absorb(mid, b));
-    }
-    for (; i < n; ++i) {
-        T a = Op::first(ina[i]), b = Op::first(inb[i]);
-        for (int k = 1; k < M; ++k) {
-            a = Op::absorb(a, ina[i + k * C]);
-            b = Op::absorb(b, inb[i + k * C]);
-        }
-        ra[i] = a;
-        rb[i] = b;
-        const T mid = Op::absorb(r1[i], a);
-        o.one(d0, i, Op::absorb(mid, r0[i]));
-        o.one(d1, i, Op::absorb(mid, b));
-    }
+    struct Four {
+        R a, b, d0, d1;
+    };
+    sweep<S::L>(
+        n,
+        [&](long i) {
+            R a = Op::first(S::load(ina + i)), b = Op::first(S::load(inb + i));
+            for (int k = 1; k < M; ++k) {
+                a = Op::absorb(a, S::load(ina + i + k * C));
+                b = Op::absorb(b, S::load(inb + i + k * C));
+            }
+            const R mid = Op::absorb(S::load(r1 + i), a);
+            return Four{a, b, Op::absorb(mid, S::load(r0 + i)), Op::absorb(mid, b)};
+        },
+        [&](long i, const Four& v) {
+            S::store(ra + i, v.a);
+            S::store(rb + i, v.b);
+            o.vec(d0 + i, v.d0);
+            o.vec(d1 + i, v.d1);
+        },
+        [&](long i) {
+            T a = Op::first(ina[i]), b = Op::first(inb[i]);
+            for (int k = 1; k < M; ++k) {
+                a = Op::absorb(a, ina[i + k * C]);
+                b = Op::absorb(b, inb[i + k * C]);
+            }
+            ra[i] = a;
+            rb[i] = b;
+            const T mid = Op::absorb(r1[i], a);
+            o.one(d0, i, Op::absorb(mid, r0[i]));
+            o.one(d1, i, Op::absorb(mid, b));
+        });
 }
 
 // One step of the vertical block scheme: the running prefix p absorbs the new row r (or
@@ -347,18 +530,23 @@ template <class Op, class T, bool kKeepAlpha>
 void prefixStep(T* p, const T* r, bool start, const T* s, T* d, long n)
 {
     using S = Simd<T>;
+    using R = typename S::R;
     const Out<T, kKeepAlpha> o;
-    long i = 0;
-    for (; i + S::L <= n; i += S::L) {
-        const auto v = start ? S::load(r + i) : Op::absorb(S::load(p + i), S::load(r + i));
-        S::store(p + i, v);
-        o.vec(d + i, Op::absorb(S::load(s + i), v));
-    }
-    for (; i < n; ++i) {
-        const T v = start ? r[i] : Op::absorb(p[i], r[i]);
-        p[i] = v;
-        o.one(d, i, Op::absorb(s[i], v));
-    }
+    sweep<S::L>(
+        n,
+        [&](long i) {
+            const R v = start ? S::load(r + i) : Op::absorb(S::load(p + i), S::load(r + i));
+            return Two<T>{v, Op::absorb(S::load(s + i), v)};
+        },
+        [&](long i, Two<T> v) {
+            S::store(p + i, v.a);
+            o.vec(d + i, v.b);
+        },
+        [&](long i) {
+            const T v = start ? r[i] : Op::absorb(p[i], r[i]);
+            p[i] = v;
+            o.one(d, i, Op::absorb(s[i], v));
+        });
 }
 
 // a absorbs b into d (d may be a).

@@ -256,6 +256,31 @@ TEST(MinMaxFilter, WidthsAndTinyImages)
         for (const auto& m : members<Kro32f>()) expectRule(m, {W, 9, 7, 6, kroBorderConstant, 0}, rng);
 }
 
+// Rows over a kilobyte long, which the filter reads in place with short copies at the ends,
+// with three-row and taller masks.
+template <class T>
+void sweepLong(kt::Rng& rng)
+{
+    const KroiBorderMode codes[] = {kroBorderReplicate, kroBorderMirror | kroBorderInMemTop,
+                                    kroBorderConstant | kroBorderInMemRight};
+    int i = 0;
+    for (const auto& m : members<T>())
+        for (KroiSize mk : {KroiSize{3, 3}, KroiSize{2, 3}, KroiSize{5, 9}, KroiSize{33, 4}, KroiSize{16, 5}, KroiSize{17, 3},
+                            KroiSize{31, 6}, KroiSize{32, 2}}) {
+            expectRule(m, {1030, 9, mk.width, mk.height, codes[i++ % 3], 17}, rng);
+            if (::testing::Test::HasFailure()) return;
+        }
+}
+
+TEST(MinMaxFilter, LongRows)
+{
+    auto rng = kt::rngForTest();
+    sweepLong<Kro8u>(rng);
+    sweepLong<Kro16u>(rng);
+    sweepLong<Kro16s>(rng);
+    sweepLong<Kro32f>(rng);
+}
+
 // NaN never wins: the max filter counts it as -inf, the min filter as +inf.  Images with a
 // few NaNs, and with NaNs only (every window then gives the infinity).
 TEST(MinMaxFilter, NaNNeverWins)
