@@ -115,9 +115,10 @@ inline __m128i mask16(const T* a, const T* b, const Op& op)
 
 // How far ahead, in bytes, both sources are prefetched: two read streams and a write stream
 // are more than the hardware prefetcher keeps up with.  From the last-level cache 2048
-// elements ahead (32 turns of the loop below); further ahead the prefetched lines of byte
-// images start to push each other out of the first-level cache.  Streaming rows read from
-// memory, whose latency needs at least 8 KiB in flight.
+// elements ahead (32 turns of the loop below): less is too late for float images, and byte
+// images measured slower again from about 8 KiB on, where the prefetched lines crowd the
+// first-level cache.  Streaming rows read from memory, whose latency needs at least 8 KiB
+// in flight.
 template <class T, bool kStream>
 constexpr long kAhead = kStream && 2048 * sizeof(T) < 8192 ? 8192 : 2048 * sizeof(T);
 
