@@ -96,6 +96,10 @@ KROI_SSE41 void split3_8u_sse41(const Kro8u* s, Kro8u* const* d, std::ptrdiff_t 
     Kro8u *d0 = d[0], *d1 = d[1], *d2 = d[2];
     std::ptrdiff_t x = 0;
     for (; x + 16 <= n; x += 16, s += 48) {
+        // The interleaved row is read this far ahead: from memory, one read stream beside three
+        // write streams leaves the hardware prefetcher too far behind; in the cache the
+        // prefetch is a hit and costs next to nothing.
+        _mm_prefetch(reinterpret_cast<const char*>(s) + 8192, _MM_HINT_T0);
         const __m128i a = loadu_sse41(s), b = loadu_sse41(s + 16), c = loadu_sse41(s + 32);
         store_sse41<Stream>(d0 + x, plane_sse41(m, a, b, c, 0));
         store_sse41<Stream>(d1 + x, plane_sse41(m, a, b, c, 1));

@@ -219,15 +219,40 @@ struct ColumnSums {
         if (!r.roi) return rows.value;
         return (x >= 0 && x < rows.width) ? r.roi + x * C : rows.outside(r.roi, r.mem, x);
     }
-    // The border columns of the widened row, one element at a time.
+    Acc* at(int64_t x) const { return c + (x + rows.f.left) * C; }
+
+    // The border columns of the widened row, after the ROI's columns are up to date.  A side
+    // read from memory goes through `f` one column at a time.  Every other border column
+    // reads, row after row, the pixel of one ROI column (replicate, mirror) or the constant,
+    // so its sum went through the same operations on the same values: it is copied, from
+    // that ROI column or from the side's first column, instead of being added up again.
+    // With a wide mask this is most of the per-row cost outside the vector loops.
     template <class F>
     void borders(F&& f) const
     {
         const int64_t w = rows.width;
-        for (int64_t x = -rows.f.left; x < 0; ++x) f(x);
-        for (int64_t x = w; x < w + rows.f.right; ++x) f(x);
+        side(-rows.f.left, 0, rows.f.memLeft, f);
+        side(w, w + rows.f.right, rows.f.memRight, f);
     }
-    Acc* at(int64_t x) const { return c + (x + rows.f.left) * C; }
+    template <class F>
+    void side(int64_t from, int64_t to, bool inMemory, F& f) const
+    {
+        if (from == to) return;
+        if (inMemory) {
+            for (int64_t x = from; x < to; ++x) f(x);
+            return;
+        }
+        if (rows.f.mode == border::Mode::Constant) {
+            f(from);
+            for (int64_t x = from + 1; x < to; ++x) std::memcpy(at(x), at(from), sizeof(Acc) * C);
+            return;
+        }
+        const int64_t w = rows.width;
+        for (int64_t x = from; x < to; ++x) {
+            const int64_t s = rows.f.mode == border::Mode::Replicate ? (x < 0 ? 0 : w - 1) : border::mirrorIndex(x, w);
+            std::memcpy(at(x), at(s), sizeof(Acc) * C);
+        }
+    }
 
     void clear() { std::memset(c, 0, sizeof(Acc) * std::size_t(rows.f.widened(rows.width)) * C); }
 
@@ -239,11 +264,11 @@ struct ColumnSums {
                 for (int k = 0; k < C; ++k) c[x * C + k] = c[x * C + k] + Acc(rows.value[k]);
             return;
         }
+        addElems<T, Acc>(at(0), r.roi, int64_t(rows.width) * C);
         borders([&](int64_t x) {
             const T* p = pixel(r, x);
             for (int k = 0; k < C; ++k) at(x)[k] = at(x)[k] + Acc(p[k]);
         });
-        addElems<T, Acc>(at(0), r.roi, int64_t(rows.width) * C);
     }
 
     void slide(RowRef<T> in, RowRef<T> out)
@@ -256,8 +281,8 @@ struct ColumnSums {
             for (int64_t x = -rows.f.left; x < int64_t(rows.width) + rows.f.right; ++x) one(x);
             return;
         }
-        borders(one);
         slideElems<T, Acc>(at(0), in.roi, out.roi, int64_t(rows.width) * C);
+        borders(one);
     }
 };
 
