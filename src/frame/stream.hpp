@@ -42,7 +42,7 @@ inline bool rowsAligned(const void* d, std::ptrdiff_t step)
     return ((reinterpret_cast<std::uintptr_t>(d) | static_cast<std::uintptr_t>(step)) & 15) == 0;
 }
 
-// The rearrangements (mirror, channel swap, comparison masks): stream when everything the
+// The rearrangements (mirror, comparison masks): stream when everything the
 // call reads and writes exceeds the largest cache, and every destination row is aligned.
 inline bool rowsBeyondCache(std::int64_t bytes, const void* d, std::ptrdiff_t step)
 {
