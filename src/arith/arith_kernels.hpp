@@ -56,6 +56,7 @@
 
 #include <emmintrin.h>
 #include <pmmintrin.h>
+#include <xmmintrin.h>
 
 #include <climits>
 #include <cstddef>
@@ -160,6 +161,12 @@ struct RowView {
     T at(long i) const { return p[i]; }
     template <int k>
     typename Simd<T>::Vec vec(long i) const { return Simd<T>::load(p + i); }
+    // Asks for the line `ahead` bytes past element i.  A prefetch never faults, so it may
+    // look past the end of the image.
+    void prefetch(long i, long ahead) const
+    {
+        _mm_prefetch(reinterpret_cast<const char*>(p + i) + ahead, _MM_HINT_T0);
+    }
 };
 
 // An image operand: first pixel and byte step.
@@ -197,6 +204,7 @@ struct ConstOperand {
     T at(long i) const { return v[i % kE]; }
     template <int k>
     typename S::Vec vec(long) const { return pattern[k]; }
+    void prefetch(long, long) const {}
 };
 
 // ---- exact results ------------------------------------------------------------------------------
@@ -637,12 +645,25 @@ struct DivBound8u {
 // d[i] = op(x[i], y[i]) over `width` pixels of layout L; returns whether a right operand was
 // zero for an element written by an operation that divides.  kStream: d is 16-byte aligned
 // and the vectors are written with non-temporal stores (the caller fences).
+//
+// The bulk goes four vectors (one 64-byte line of every image) per step, C3 three (one period
+// of its constant), with a prefetch of each source image a few lines ahead: rows that sit in
+// the last-level cache arrive faster when asked for early than when the hardware's stream
+// detection catches up.  The operands and the operation are copied first: a byte store
+// through d could otherwise alias them, and they would be reloaded for every vector.  Every
+// call inside is inlined: an operation body left out of line costs a call, and with its
+// arrays a stack canary, per vector.
 template <Layout L, bool kStream = false, class Op, class X, class Y, class T>
-bool rowLoop(const Op& op, const X& x, const Y& y, T* d, long width)
+[[gnu::flatten]] bool rowLoop(const Op& opIn, const X& xIn, const Y& yIn, T* d, long width)
 {
     using S = Simd<T>;
     constexpr long kLanes = S::kLanes;
     constexpr int kPeriod = X::kPeriod > Y::kPeriod ? X::kPeriod : Y::kPeriod;
+    constexpr int kStep = kPeriod == 3 ? 3 : 4;
+    constexpr long kAhead = 512; // eight lines: far enough to cover the latency of the last-level cache
+    const Op op = opIn;
+    const X x = xIn;
+    const Y y = yIn;
     const long n = width * kElems<L>;
     long i = 0;
     bool zero = false;
@@ -661,16 +682,30 @@ bool rowLoop(const Op& op, const X& x, const Y& y, T* d, long width)
             else S::store(d + i, r);
             i += kLanes;
         };
-        for (; i + kPeriod * kLanes <= n;) {
-            one(std::integral_constant<int, 0>{});
+        using P0 = std::integral_constant<int, 0>;
+        using P1 = std::integral_constant<int, 1>;
+        using P2 = std::integral_constant<int, 2>;
+        for (; i + kStep * kLanes <= n;) {
+            if constexpr (!kStream) { // streamed images come from memory, where the hardware keeps up
+                x.prefetch(i, kAhead);
+                y.prefetch(i, kAhead);
+            }
             if constexpr (kPeriod == 3) {
-                one(std::integral_constant<int, 1>{});
-                one(std::integral_constant<int, 2>{});
+                one(P0{});
+                one(P1{});
+                one(P2{});
+            } else {
+                one(P0{});
+                one(P0{});
+                one(P0{});
+                one(P0{});
             }
         }
         if constexpr (kPeriod == 3) {
-            if (i + kLanes <= n) one(std::integral_constant<int, 0>{});
-            if (i + kLanes <= n) one(std::integral_constant<int, 1>{});
+            if (i + kLanes <= n) one(P0{});
+            if (i + kLanes <= n) one(P1{});
+        } else {
+            while (i + kLanes <= n) one(P0{});
         }
         if constexpr (Op::kDivides) zero = S::any(zeros);
     }
