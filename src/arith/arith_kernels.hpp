@@ -611,11 +611,11 @@ struct DivRecip8u {
         Lanes32<Kro8u>::widen(y, b);
         const __m128 sc = _mm_set1_ps(scale);
         for (int k = 0; k < 4; ++k) q[k] = _mm_cvtps_epi32(quotient(a[k], b[k], sc));
-        const __m128i r = Lanes32<Kro8u>::narrow(q); // NaN from 0 / 0 packs to 0, replaced below
+        // A zero divisor makes the quotient NaN (the estimate is infinite and 0 x infinity is
+        // NaN), which converts to INT_MIN and packs to 0: those lanes need only the 255.
+        const __m128i r = Lanes32<Kro8u>::narrow(q);
         const __m128i z = _mm_setzero_si128();
-        const __m128i yZero = _mm_cmpeq_epi8(y, z);
-        const __m128i byZero = _mm_andnot_si128(_mm_cmpeq_epi8(x, z), yZero); // 255 or 0
-        return _mm_or_si128(_mm_andnot_si128(yZero, r), byZero);
+        return _mm_or_si128(r, _mm_andnot_si128(_mm_cmpeq_epi8(x, z), _mm_cmpeq_epi8(y, z)));
     }
 };
 
