@@ -349,7 +349,7 @@ struct Scaled {
 
     T scalar(T x, T y) const { return scaleSaturate<T>(Kind::exact(x, y), s); }
 
-    Vec vec(Vec x, Vec y) const
+    [[gnu::always_inline]] Vec vec(Vec x, Vec y) const
     {
         constexpr bool k8u = std::is_same_v<T, Kro8u>;
         constexpr bool kAdd = std::is_same_v<Kind, Add>, kSub = std::is_same_v<Kind, Sub>;
@@ -393,7 +393,7 @@ struct Scaled {
     // 16u products reach 65535^2, past int32: they are kept as 16-bit halves, a product
     // above 65535 saturates at s <= 0, and s > 0 rounds in unsigned 32-bit lanes by
     // quotient and remainder, which cannot overflow.
-    __m128i mul16u(__m128i x, __m128i y) const
+    [[gnu::always_inline]] __m128i mul16u(__m128i x, __m128i y) const
     {
         const __m128i lo = _mm_mullo_epi16(x, y), hi = _mm_mulhi_epu16(x, y);
         const __m128i big = _mm_andnot_si128(_mm_cmpeq_epi16(hi, _mm_setzero_si128()), _mm_set1_epi8(-1));
@@ -456,7 +456,7 @@ struct Float {
         else if constexpr (std::is_same_v<Kind, Sub>) return x - y;
         else return x * y;
     }
-    static Vec vec(Vec x, Vec y)
+    [[gnu::always_inline]] static Vec vec(Vec x, Vec y)
     {
         if constexpr (std::is_same_v<Kind, Add>) return _mm_add_ps(x, y);
         else if constexpr (std::is_same_v<Kind, Sub>) return _mm_sub_ps(x, y);
@@ -471,7 +471,7 @@ struct FloatDiv {
     static constexpr bool kDivides = true;
     static constexpr bool kMergeRows = true;
     static Kro32f scalar(Kro32f x, Kro32f y) { return x / y; }
-    static Vec vec(Vec x, Vec y) { return _mm_div_ps(x, y); }
+    [[gnu::always_inline]] static Vec vec(Vec x, Vec y) { return _mm_div_ps(x, y); }
 };
 
 // ---- division ----------------------------------------------------------------------------------------
@@ -542,7 +542,7 @@ struct DivExact {
         return _mm_add_epi32(_mm_sub_epi32(t, up), dn);
     }
 
-    Vec vec(Vec x, Vec y) const
+    [[gnu::always_inline]] Vec vec(Vec x, Vec y) const
     {
         __m128i a[W::kParts], b[W::kParts], q[W::kParts];
         W::widen(x, a);
@@ -604,7 +604,7 @@ struct DivRecip8u {
         return scaled ? _mm_mul_ps(q, sc) : q;
     }
 
-    Vec vec(Vec x, Vec y) const
+    [[gnu::always_inline]] Vec vec(Vec x, Vec y) const
     {
         __m128i a[4], b[4], q[4];
         Lanes32<Kro8u>::widen(x, a);
@@ -632,7 +632,7 @@ struct DivBound8u {
     {
         return y == 0 || large ? divByZero(x) : Kro8u(0);
     }
-    Vec vec(Vec x, Vec y) const
+    [[gnu::always_inline]] Vec vec(Vec x, Vec y) const
     {
         const __m128i z = _mm_setzero_si128();
         const __m128i xNonZero = _mm_andnot_si128(_mm_cmpeq_epi8(x, z), _mm_set1_epi8(-1));
@@ -650,11 +650,11 @@ struct DivBound8u {
 // of its constant), with a prefetch of each source image a few lines ahead: rows that sit in
 // the last-level cache arrive faster when asked for early than when the hardware's stream
 // detection catches up.  The operands and the operation are copied first: a byte store
-// through d could otherwise alias them, and they would be reloaded for every vector.  Every
-// call inside is inlined: an operation body left out of line costs a call, and with its
-// arrays a stack canary, per vector.
+// through d could otherwise alias them, and they would be reloaded for every vector.  The
+// operations' vector bodies are always inlined: one left out of line in this long loop costs
+// a call, and with its arrays a stack canary, per vector.
 template <Layout L, bool kStream = false, class Op, class X, class Y, class T>
-[[gnu::flatten]] bool rowLoop(const Op& opIn, const X& xIn, const Y& yIn, T* d, long width)
+bool rowLoop(const Op& opIn, const X& xIn, const Y& yIn, T* d, long width)
 {
     using S = Simd<T>;
     constexpr long kLanes = S::kLanes;
