@@ -56,6 +56,7 @@
 
 #include <emmintrin.h>
 #include <pmmintrin.h>
+#include <xmmintrin.h>
 
 #include <climits>
 #include <cstddef>
@@ -161,6 +162,12 @@ struct RowView {
     T at(long i) const { return p[i]; }
     template <int k>
     typename Simd<T>::Vec vec(long i) const { return Simd<T>::load(p + i); }
+    // Asks for the line `ahead` bytes past element i.  A prefetch never faults, so it may
+    // look past the end of the image.
+    void prefetch(long i, long ahead) const
+    {
+        _mm_prefetch(reinterpret_cast<const char*>(p + i) + ahead, _MM_HINT_T0);
+    }
 };
 
 // An image operand: first pixel and byte step.
@@ -198,6 +205,7 @@ struct ConstOperand {
     T at(long i) const { return v[i % kE]; }
     template <int k>
     typename S::Vec vec(long) const { return pattern[k]; }
+    void prefetch(long, long) const {}
 };
 
 // ---- exact results ------------------------------------------------------------------------------
@@ -342,7 +350,7 @@ struct Scaled {
 
     T scalar(T x, T y) const { return scaleSaturate<T>(Kind::exact(x, y), s); }
 
-    Vec vec(Vec x, Vec y) const
+    [[gnu::always_inline]] Vec vec(Vec x, Vec y) const
     {
         constexpr bool k8u = std::is_same_v<T, Kro8u>;
         constexpr bool kAdd = std::is_same_v<Kind, Add>, kSub = std::is_same_v<Kind, Sub>;
@@ -386,7 +394,7 @@ struct Scaled {
     // 16u products reach 65535^2, past int32: they are kept as 16-bit halves, a product
     // above 65535 saturates at s <= 0, and s > 0 rounds in unsigned 32-bit lanes by
     // quotient and remainder, which cannot overflow.
-    __m128i mul16u(__m128i x, __m128i y) const
+    [[gnu::always_inline]] __m128i mul16u(__m128i x, __m128i y) const
     {
         const __m128i lo = _mm_mullo_epi16(x, y), hi = _mm_mulhi_epu16(x, y);
         const __m128i big = _mm_andnot_si128(_mm_cmpeq_epi16(hi, _mm_setzero_si128()), _mm_set1_epi8(-1));
@@ -449,7 +457,7 @@ struct Float {
         else if constexpr (std::is_same_v<Kind, Sub>) return x - y;
         else return x * y;
     }
-    static Vec vec(Vec x, Vec y)
+    [[gnu::always_inline]] static Vec vec(Vec x, Vec y)
     {
         if constexpr (std::is_same_v<Kind, Add>) return _mm_add_ps(x, y);
         else if constexpr (std::is_same_v<Kind, Sub>) return _mm_sub_ps(x, y);
@@ -464,7 +472,7 @@ struct FloatDiv {
     static constexpr bool kDivides = true;
     static constexpr bool kMergeRows = true;
     static Kro32f scalar(Kro32f x, Kro32f y) { return x / y; }
-    static Vec vec(Vec x, Vec y) { return _mm_div_ps(x, y); }
+    [[gnu::always_inline]] static Vec vec(Vec x, Vec y) { return _mm_div_ps(x, y); }
 };
 
 // ---- division ----------------------------------------------------------------------------------------
@@ -535,7 +543,7 @@ struct DivExact {
         return _mm_add_epi32(_mm_sub_epi32(t, up), dn);
     }
 
-    Vec vec(Vec x, Vec y) const
+    [[gnu::always_inline]] Vec vec(Vec x, Vec y) const
     {
         __m128i a[W::kParts], b[W::kParts], q[W::kParts];
         W::widen(x, a);
@@ -597,18 +605,18 @@ struct DivRecip8u {
         return scaled ? _mm_mul_ps(q, sc) : q;
     }
 
-    Vec vec(Vec x, Vec y) const
+    [[gnu::always_inline]] Vec vec(Vec x, Vec y) const
     {
         __m128i a[4], b[4], q[4];
         Lanes32<Kro8u>::widen(x, a);
         Lanes32<Kro8u>::widen(y, b);
         const __m128 sc = _mm_set1_ps(scale);
         for (int k = 0; k < 4; ++k) q[k] = _mm_cvtps_epi32(quotient(a[k], b[k], sc));
-        const __m128i r = Lanes32<Kro8u>::narrow(q); // NaN from 0 / 0 packs to 0, replaced below
+        // A zero divisor makes the quotient NaN (the estimate is infinite and 0 x infinity is
+        // NaN), which converts to INT_MIN and packs to 0: those lanes need only the 255.
+        const __m128i r = Lanes32<Kro8u>::narrow(q);
         const __m128i z = _mm_setzero_si128();
-        const __m128i yZero = _mm_cmpeq_epi8(y, z);
-        const __m128i byZero = _mm_andnot_si128(_mm_cmpeq_epi8(x, z), yZero); // 255 or 0
-        return _mm_or_si128(_mm_andnot_si128(yZero, r), byZero);
+        return _mm_or_si128(r, _mm_andnot_si128(_mm_cmpeq_epi8(x, z), _mm_cmpeq_epi8(y, z)));
     }
 };
 
@@ -625,7 +633,7 @@ struct DivBound8u {
     {
         return y == 0 || large ? divByZero(x) : Kro8u(0);
     }
-    Vec vec(Vec x, Vec y) const
+    [[gnu::always_inline]] Vec vec(Vec x, Vec y) const
     {
         const __m128i z = _mm_setzero_si128();
         const __m128i xNonZero = _mm_andnot_si128(_mm_cmpeq_epi8(x, z), _mm_set1_epi8(-1));
@@ -638,12 +646,25 @@ struct DivBound8u {
 // d[i] = op(x[i], y[i]) over `width` pixels of layout L; returns whether a right operand was
 // zero for an element written by an operation that divides.  kStream: d is 16-byte aligned
 // and the vectors are written with non-temporal stores (the caller fences).
+//
+// The bulk goes four vectors (one 64-byte line of every image) per step, C3 three (one period
+// of its constant), with a prefetch of each source image a few lines ahead: rows that sit in
+// the last-level cache arrive faster when asked for early than when the hardware's stream
+// detection catches up.  The operands and the operation are copied first: a byte store
+// through d could otherwise alias them, and they would be reloaded for every vector.  The
+// operations' vector bodies are always inlined: one left out of line in this long loop costs
+// a call, and with its arrays a stack canary, per vector.
 template <Layout L, bool kStream = false, class Op, class X, class Y, class T>
-bool rowLoop(const Op& op, const X& x, const Y& y, T* d, long width)
+bool rowLoop(const Op& opIn, const X& xIn, const Y& yIn, T* d, long width)
 {
     using S = Simd<T>;
     constexpr long kLanes = S::kLanes;
     constexpr int kPeriod = X::kPeriod > Y::kPeriod ? X::kPeriod : Y::kPeriod;
+    constexpr int kStep = kPeriod == 3 ? 3 : 4;
+    constexpr long kAhead = 512; // eight lines: far enough to cover the latency of the last-level cache
+    const Op op = opIn;
+    const X x = xIn;
+    const Y y = yIn;
     const long n = width * kElems<L>;
     long i = 0;
     bool zero = false;
@@ -662,16 +683,30 @@ bool rowLoop(const Op& op, const X& x, const Y& y, T* d, long width)
             else S::store(d + i, r);
             i += kLanes;
         };
-        for (; i + kPeriod * kLanes <= n;) {
-            one(std::integral_constant<int, 0>{});
+        using P0 = std::integral_constant<int, 0>;
+        using P1 = std::integral_constant<int, 1>;
+        using P2 = std::integral_constant<int, 2>;
+        for (; i + kStep * kLanes <= n;) {
+            if constexpr (!kStream) { // streamed images come from memory, where the hardware keeps up
+                x.prefetch(i, kAhead);
+                y.prefetch(i, kAhead);
+            }
             if constexpr (kPeriod == 3) {
-                one(std::integral_constant<int, 1>{});
-                one(std::integral_constant<int, 2>{});
+                one(P0{});
+                one(P1{});
+                one(P2{});
+            } else {
+                one(P0{});
+                one(P0{});
+                one(P0{});
+                one(P0{});
             }
         }
         if constexpr (kPeriod == 3) {
-            if (i + kLanes <= n) one(std::integral_constant<int, 0>{});
-            if (i + kLanes <= n) one(std::integral_constant<int, 1>{});
+            if (i + kLanes <= n) one(P0{});
+            if (i + kLanes <= n) one(P1{});
+        } else {
+            while (i + kLanes <= n) one(P0{});
         }
         if constexpr (Op::kDivides) zero = S::any(zeros);
     }

@@ -1,6 +1,6 @@
 // The kernels directly, as the constant forms use them: a per-channel constant operand in
-// the row loop gives, at every length around the vector size and its C3 period, the
-// operation's own scalar body, and AC4 rows keep their fourth element.
+// the row loop gives, at every length around the vector size, its C3 period and the loop's
+// four-vector step, the operation's own scalar body, and AC4 rows keep their fourth element.
 #include <vector>
 
 #include "arith/arith_kernels.hpp"
@@ -18,7 +18,7 @@ void constantRows(const Op& op)
     const T values[3] = {kt::randomValue<T>(rng), kt::randomValue<T>(rng), kt::randomValue<T>(rng)};
     const arith::ConstOperand<T, L> k(values);
     constexpr int kLanes = 16 / sizeof(T);
-    for (int width = 0; width <= 3 * kLanes + 1; ++width) {
+    for (int width = 0; width <= 5 * kLanes + 1; ++width) {
         std::vector<T> src(std::size_t(width) * E), dst(src.size());
         for (T& v : src) v = kt::randomValue<T>(rng);
         for (T& v : dst) v = kt::randomValue<T>(rng);
@@ -36,6 +36,12 @@ TEST(ArithKernels, ConstantOperandC3) {
     constantRows<Kro8u, arith::kC3>(arith::Scaled<Kro8u, arith::Add, arith::Mode::Down>{3});
     constantRows<Kro16s, arith::kC3>(arith::Scaled<Kro16s, arith::Mul, arith::Mode::Up>{-2});
     constantRows<Kro32f, arith::kC3>(arith::Float<arith::Sub>{});
+}
+
+TEST(ArithKernels, ConstantOperandC1) {
+    constantRows<Kro8u, arith::kC1>(arith::Scaled<Kro8u, arith::Add, arith::Mode::Half>{});
+    constantRows<Kro16s, arith::kC1>(arith::Scaled<Kro16s, arith::Mul, arith::Mode::Plain>{});
+    constantRows<Kro32f, arith::kC1>(arith::Float<arith::Add>{});
 }
 
 TEST(ArithKernels, ConstantOperandAC4) {

@@ -114,15 +114,22 @@ using BinaryI = std::function<KroStatus(const T*, int, T*, int, KroiSize)>;
 // Fills an image from `gen` (a random element by default).
 template <class T>
 using Gen = std::function<T(Rng&)>;
+// The expected element from a source element and its channel, and from two sources.  Taken
+// as std::function so that every rule shares one copy of each sweep per element type.
+template <class T>
+using Want = std::function<T(T, int)>;
+template <class T>
+using Want2 = std::function<T(T, T)>;
+
 template <class T>
 Gen<T> anyValue()
 {
     return [](Rng& r) { return randomValue<T>(r); };
 }
 
-template <class T, class Want>
+template <class T>
 void sweepUnary(const std::string& name, int channels, int written, const UnaryR<T>& out, const UnaryI<T>& in,
-                Want&& want, Rng& rng, const Gen<T>& gen = anyValue<T>(), bool negativeSteps = false,
+                const Want<T>& want, Rng& rng, const Gen<T>& gen = anyValue<T>(), bool negativeSteps = false,
                 KroStatus expect = kroStsOk, const std::vector<int>& widths = kWidths)
 {
     for (const Shape& sh : shapes(channels, sizeof(T), negativeSteps, widths)) {
@@ -152,8 +159,8 @@ void sweepUnary(const std::string& name, int channels, int written, const UnaryR
 }
 
 // A member with constants `k` (and trailing arguments such as a scale factor), both forms.
-template <class M, class V, class Want, class... More>
-void sweepConst(const M& m, const V* k, Want&& want, Rng& rng, bool negativeSteps, const std::vector<int>& widths,
+template <class M, class V, class... More>
+void sweepConst(const M& m, const V* k, const Want<typename M::Elem>& want, Rng& rng, bool negativeSteps, const std::vector<int>& widths,
                 More... more)
 {
     using T = typename M::Elem;
@@ -163,9 +170,9 @@ void sweepConst(const M& m, const V* k, Want&& want, Rng& rng, bool negativeStep
                   negativeSteps, kroStsOk, widths);
 }
 
-template <class T, class Want>
+template <class T>
 void sweepBinary(const std::string& name, int channels, int written, const BinaryR<T>& out, const BinaryI<T>& in,
-                 Want&& want, Rng& rng)
+                 const Want2<T>& want, Rng& rng)
 {
     for (const Shape& sh : shapes(channels, sizeof(T), false)) {
         SCOPED_TRACE(name + " width " + std::to_string(sh.width) + " pad " + std::to_string(sh.padBytes));
