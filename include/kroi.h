@@ -2503,6 +2503,161 @@ KroStatus kroiErode3x3_64f_C1R(const Kro64f* pSrc, int srcStep, Kro64f* pDst, in
 
 /* end of section MINMAX */
 
+/* section MOMENTS */
+/* =======================================================================================
+ * Moments
+ *
+ * kroiMoments64f_<t>_<c>R computes the raw moments M[p][q] = sum over the region of
+ * x^p * y^q * I(x, y), p + q <= 3, x and y counted from the region's top-left pixel, into a
+ * caller-allocated state; the getters derive spatial, central and normalised moments and the
+ * seven Hu invariants from the state without touching the image again.
+ *
+ * State (KroiMomentState64f, 400 bytes, kroiMomentGetStateSize_64f): the tag 35, the hint
+ * given to kroiMomentInit_64f, the channel count (-1 until a moment call sets it: 1 for C1,
+ * 3 for C3 and AC4), then per channel c a block of 16 doubles whose entry 2 + p + 4q holds
+ * M[p][q].  Block c starts at byte 128*c of the state, so entries 0 and 1 of the first block
+ * lie over the header words; `raw[16*c + 2 + p + 4*q - 2]` reads M[p][q] of channel c.
+ *
+ * Accuracy.  8u and 16u: the sums are exact integers (carried in 256 bits), and each stored
+ * M[p][q] is the exact value rounded once to the nearest double, ties to even, for every
+ * region size the functions accept.  32f: for each row y, r_p = sum of (x^p * I) over the row
+ * left to right in double (x^p formed as x*x*x in double from x converted exactly), then
+ * M[p][q] += y^q * r_p row by row, top to bottom, y^q likewise; NaN and infinities
+ * propagate.  The hint is stored and changes nothing: the integer sums are already exact,
+ * and the 32f order above is the only one.  All double arithmetic of this family runs with
+ * round-to-nearest whatever the caller's rounding control, which is restored on return.
+ *
+ * Checks of kroiMoments64f, in order: null pSrc or pState -8; state tag not 35
+ * kroStsWrongTagErr (-13); srcStep < 1 -16; width or height < 1 -6; srcStep below the bytes
+ * of one row (width * channels * element size) kroStsShortStepErr (-37).  AC4 reads each
+ * pixel's four elements and keeps the moments of the first three.
+ *
+ * Getters, checks in order: null state or output -8; tag not 35 -13; m < 0, n < 0 or
+ * m + n > 3 -6; channel < 0 or not below the state's channel count kroStsBadChannelErr
+ * (-47); then, for all but the spatial getter, |M00| <= 2.220446049250313e-16
+ * kroStsZeroMassErr (-21).  Nothing is written on error.
+ *   Spatial (offset (ox, oy)): the sum over i = 0..m (outer), j = 0..n (inner) of
+ *     ((C(m,i) * C(n,j)) * ox^(m-i)) * oy^(n-j) * M[i][j], accumulated in that order from 0;
+ *     powers by repeated multiplication; offset (0, 0) gives M[m][n] exactly.
+ *   Central: the same sum with ox = -xc, oy = -yc, xc = M10 / M00, yc = M01 / M00;
+ *     mu00 = M00, mu10 = mu01 = 0 exactly.
+ *   Normalised (spatial or central): the moment divided by M00^((m + n + 2) / 2), formed as
+ *     M00^k (repeated multiplication), times sqrt(M00) when m + n is odd, k = (m+n+2) div 2.
+ *     A negative M00 (32f images) gives NaN for odd m + n.
+ *   Hu: the seven invariants of the normalised central moments eta of orders 2 and 3:
+ *     I1 = eta20 + eta02, I2 = (eta20 - eta02)^2 + 4 eta11^2, I3 = (eta30 - 3 eta12)^2 +
+ *     (3 eta21 - eta03)^2, I4 = (eta30 + eta12)^2 + (eta21 + eta03)^2, I5, I6 and I7 by the
+ *     published formulas, with a = eta30 + eta12, b = eta21 + eta03:
+ *     I5 = (eta30 - 3 eta12) a (a^2 - 3 b^2) + (3 eta21 - eta03) b (3 a^2 - b^2),
+ *     I6 = (eta20 - eta02)(a^2 - b^2) + 4 eta11 a b,
+ *     I7 = (3 eta21 - eta03) a (a^2 - 3 b^2) - (eta30 - 3 eta12) b (3 a^2 - b^2).
+ *     Checks: null -8; tag -13; channel -47; zero mass -21.
+ * ------------------------------------------------------------------------------------- */
+typedef struct KroiMomentState64f {
+    int32_t tag;         /* 35 once initialised */
+    int32_t hint;        /* the hint given to kroiMomentInit_64f */
+    int32_t numChannels; /* -1 until a moment call sets it */
+    int32_t reserved;    /* entry 1 of the first block: not used */
+    Kro64f  raw[48];     /* raw[16*c + e - 2]: entry e of channel c's block */
+} KroiMomentState64f;
+
+/* kroiMomentGetStateSize_64f: writes 400.  Null pSize: -8.  kroiMomentInit_64f: null -8;
+ * writes the tag, the hint and the channel count -1 (the moments are left as they are). */
+KroStatus kroiMomentGetStateSize_64f(KroAlgorithmHint hint, int* pSize);
+KroStatus kroiMomentInit_64f(KroiMomentState64f* pState, KroAlgorithmHint hint);
+KroStatus kroiMoments64f_8u_C1R(const Kro8u* pSrc, int srcStep, KroiSize roiSize, KroiMomentState64f* pState);
+KroStatus kroiMoments64f_8u_C3R(const Kro8u* pSrc, int srcStep, KroiSize roiSize, KroiMomentState64f* pState);
+KroStatus kroiMoments64f_8u_AC4R(const Kro8u* pSrc, int srcStep, KroiSize roiSize, KroiMomentState64f* pState);
+KroStatus kroiMoments64f_16u_C1R(const Kro16u* pSrc, int srcStep, KroiSize roiSize, KroiMomentState64f* pState);
+KroStatus kroiMoments64f_16u_C3R(const Kro16u* pSrc, int srcStep, KroiSize roiSize, KroiMomentState64f* pState);
+KroStatus kroiMoments64f_16u_AC4R(const Kro16u* pSrc, int srcStep, KroiSize roiSize, KroiMomentState64f* pState);
+KroStatus kroiMoments64f_32f_C1R(const Kro32f* pSrc, int srcStep, KroiSize roiSize, KroiMomentState64f* pState);
+KroStatus kroiMoments64f_32f_C3R(const Kro32f* pSrc, int srcStep, KroiSize roiSize, KroiMomentState64f* pState);
+KroStatus kroiMoments64f_32f_AC4R(const Kro32f* pSrc, int srcStep, KroiSize roiSize, KroiMomentState64f* pState);
+KroStatus kroiGetSpatialMoment_64f(const KroiMomentState64f* pState, int mOrd, int nOrd, int nChannel, KroiPoint roiOffset, Kro64f* pValue);
+KroStatus kroiGetCentralMoment_64f(const KroiMomentState64f* pState, int mOrd, int nOrd, int nChannel, Kro64f* pValue);
+KroStatus kroiGetNormalizedSpatialMoment_64f(const KroiMomentState64f* pState, int mOrd, int nOrd, int nChannel, KroiPoint roiOffset, Kro64f* pValue);
+KroStatus kroiGetNormalizedCentralMoment_64f(const KroiMomentState64f* pState, int mOrd, int nOrd, int nChannel, Kro64f* pValue);
+KroStatus kroiGetHuMoments_64f(const KroiMomentState64f* pState, int nChannel, Kro64f pHm[7]);
+
+/* end of section MOMENTS */
+
+/* section HISTOGRAM */
+/* =======================================================================================
+ * Histograms
+ *
+ * Per-channel counts of a region's values over bins prepared once into a caller-allocated
+ * specification.  A channel with n levels L[0] < ... < L[n-1] has n - 1 bins; bin k counts
+ * the values v with L[k] <= v < L[k+1] (half-open; values outside [L[0], L[n-1]) and NaN are
+ * not counted).  Counts are unsigned 32-bit and wrap past 2^32 - 1.
+ *
+ * Specification (KroiHistogramSpec, then the level arrays in the same block): data type
+ * code, channel count, the uniform word (1 from kroiHistogramUniformInit, 0 from
+ * kroiHistogramInit), the tag 0x74736968, per-channel level counts, per-channel pointers to
+ * the level arrays (32-bit floats for 32f, 32-bit integers for the integer types), which lie
+ * after the structure, each on a 16-byte boundary.  The pointers point into the block, so a
+ * specification must not be moved or copied once initialised.
+ *
+ * kroiHistogramGetBufferSize(dataType, roi, pLevels counts, numChannels, uniform, pSpecSize,
+ * pBufferSize): checks, in order: null level counts or either output -8; width or height
+ * < 1 -6; numChannels not 1, 3, 4 -53; a level count < 2 kroStsFewHistLevelsErr (-107);
+ * a level count above 2^24 -6; dataType not 1, 5, 7, 13 -59.  Sizes: specification
+ * 64 + sum of (4 * n rounded up to 16); buffer 4096 * numChannels + 64 for 8u (four
+ * count tables per channel), 64 for the other types (they count straight into the output).
+ *
+ * kroiHistogramInit(dataType, pLevels (per-channel arrays), level counts, numChannels,
+ * pSpec): dataType -59; null pLevels, counts or pSpec -8; numChannels -53; then per channel:
+ * count < 2 -107, count above 2^24 -6, null level array -8, levels not strictly increasing
+ * (or NaN) kroStsBadRangeErr (-7).  The levels are copied.
+ * kroiHistogramUniformInit(dataType, lower, upper, counts, numChannels, pSpec): dataType
+ * -59; null lower, upper, counts or pSpec -8; numChannels -53; per channel: count < 2 -107,
+ * count above 2^24 -6, lower not below upper (or NaN) -7.  Level k of n is
+ * lower + k * ((upper - lower) / (n - 1)) in double (first and last exactly lower and upper);
+ * 32f stores it as the nearest float; the integer types round it to the nearest integer,
+ * ties to even, saturated to the 32-bit range.  Levels that do not come out strictly
+ * increasing after rounding give -7 (for example 10 integer levels over [0, 3]).
+ * kroiHistogramGetLevels(pSpec, pLevels): null pSpec or pLevels -8; tag -5; a null array for
+ * one of the channels -8; copies each channel's levels.
+ *
+ * kroiHistogram_<t>_<c>R(pSrc, srcStep, roi, pHist (one array for C1, one per channel
+ * otherwise), pSpec, pBuffer): checks, in order: null pSrc, pHist (or any channel's array),
+ * pSpec or pBuffer -8; width or height < 1 -6; srcStep < 1 or below the bytes of one row
+ * kroStsBadStepErr (-16); tag not 0x74736968, or a specification made for another data type
+ * or channel count, kroStsBadArgumentErr (-5).  8u counts every pixel into a full 256-entry
+ * table (four tables for one channel, so that equal neighbours do not wait on each other's
+ * stores) and sums it over [clamp(L[k]), clamp(L[k+1])), levels clamped to 0..256.  The
+ * other types find each value's bin from the first and last level when the specification is
+ * uniform (an estimate corrected against the stored levels, so edges fall exactly as the
+ * half-open rule says) and by binary search otherwise.  C4 counts all four channels.
+ * ------------------------------------------------------------------------------------- */
+typedef struct KroiHistogramSpec {
+    uint32_t dataType;     /* kro8u, kro16u, kro16s or kro32f */
+    uint32_t numChannels;  /* 1, 3 or 4 */
+    uint32_t uniform;      /* 1 when made by kroiHistogramUniformInit */
+    uint32_t tag;          /* 0x74736968 */
+    int32_t  numLevels[4];
+    void*    pLevels[4];   /* Kro32f* for 32f, Kro32s* otherwise; arrays follow in the block */
+} KroiHistogramSpec;
+
+KroStatus kroiHistogramGetBufferSize(KroDataType dataType, KroiSize roiSize, const int* nLevels, int numChannels, int uniform, int* pSpecSize, int* pBufferSize);
+KroStatus kroiHistogramInit(KroDataType dataType, const void* const* pLevels, const int* nLevels, int numChannels, KroiHistogramSpec* pSpec);
+KroStatus kroiHistogramUniformInit(KroDataType dataType, const Kro32f* lowerLevel, const Kro32f* upperLevel, const int* nLevels, int numChannels, KroiHistogramSpec* pSpec);
+KroStatus kroiHistogramGetLevels(const KroiHistogramSpec* pSpec, void* const* pLevels);
+KroStatus kroiHistogram_8u_C1R(const Kro8u* pSrc, int srcStep, KroiSize roiSize, Kro32u* pHist, const KroiHistogramSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiHistogram_8u_C3R(const Kro8u* pSrc, int srcStep, KroiSize roiSize, Kro32u* const pHist[3], const KroiHistogramSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiHistogram_8u_C4R(const Kro8u* pSrc, int srcStep, KroiSize roiSize, Kro32u* const pHist[4], const KroiHistogramSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiHistogram_16u_C1R(const Kro16u* pSrc, int srcStep, KroiSize roiSize, Kro32u* pHist, const KroiHistogramSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiHistogram_16u_C3R(const Kro16u* pSrc, int srcStep, KroiSize roiSize, Kro32u* const pHist[3], const KroiHistogramSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiHistogram_16u_C4R(const Kro16u* pSrc, int srcStep, KroiSize roiSize, Kro32u* const pHist[4], const KroiHistogramSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiHistogram_16s_C1R(const Kro16s* pSrc, int srcStep, KroiSize roiSize, Kro32u* pHist, const KroiHistogramSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiHistogram_16s_C3R(const Kro16s* pSrc, int srcStep, KroiSize roiSize, Kro32u* const pHist[3], const KroiHistogramSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiHistogram_16s_C4R(const Kro16s* pSrc, int srcStep, KroiSize roiSize, Kro32u* const pHist[4], const KroiHistogramSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiHistogram_32f_C1R(const Kro32f* pSrc, int srcStep, KroiSize roiSize, Kro32u* pHist, const KroiHistogramSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiHistogram_32f_C3R(const Kro32f* pSrc, int srcStep, KroiSize roiSize, Kro32u* const pHist[3], const KroiHistogramSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiHistogram_32f_C4R(const Kro32f* pSrc, int srcStep, KroiSize roiSize, Kro32u* const pHist[4], const KroiHistogramSpec* pSpec, Kro8u* pBuffer);
+
+/* end of section HISTOGRAM */
+
 #ifdef __cplusplus
 }
 #endif
