@@ -2603,7 +2603,8 @@ KroStatus kroiGetHuMoments_64f(const KroiMomentState64f* pState, int nChannel, K
  * < 1 -6; numChannels not 1, 3, 4 -53; a level count < 2 kroStsFewHistLevelsErr (-107);
  * a level count above 2^24 -6; dataType not 1, 5, 7, 13 -59.  Sizes: specification
  * 64 + sum of (4 * n rounded up to 16); buffer 4096 * numChannels + 64 for 8u (four
- * count tables per channel), 64 for the other types (they count straight into the output).
+ * count tables per channel), 8 * (largest level count) + 64 for the other types (two
+ * count rows that alternate pixels, summed into the output).
  *
  * kroiHistogramInit(dataType, pLevels (per-channel arrays), level counts, numChannels,
  * pSpec): dataType -59; null pLevels, counts or pSpec -8; numChannels -53; then per channel:

@@ -9,6 +9,9 @@
 #include <cmath>
 #include <cstring>
 
+#include <xmmintrin.h>
+#include <emmintrin.h>
+
 #include "frame/base.hpp"
 #include "frame/bind.hpp"
 #include "frame/check.hpp"
@@ -101,7 +104,8 @@ bool increasing(const L* v, int n)
 
 // ---- counting ------------------------------------------------------------------------------
 
-// The bin of a value among n levels, or -1 outside [L[0], L[n-1]).
+// The bin of a value among the levels of one channel, or `bins` (a slot past the real counts)
+// outside [L[0], L[n-1]) and for NaN, so that counting needs no branch on the answer.
 template <class L>
 class BinFinder {
 public:
@@ -111,42 +115,113 @@ public:
     {
     }
 
-    template <class V>
-    int find(V value) const
+    int clampBin(int k) const { return k < 0 ? 0 : k >= bins_ ? bins_ - 1 : k; }
+    bool uniform() const { return uniform_; }
+
+    int find(L v) const
     {
-        const L v = L(value);
-        if (!(v >= lv_[0] && v < lv_[bins_])) return -1;
+        if (!(v >= lv_[0] && v < lv_[bins_])) return bins_;
         if (!uniform_) return int(std::upper_bound(lv_, lv_ + bins_ + 1, v) - lv_) - 1;
         const double e = (double(v) - base_) * scale_;
-        int k = e < double(bins_) ? int(e) : bins_ - 1;
-        if (k < 0) k = 0;
+        return settle(v, e < double(bins_ - 1) ? int(e) : bins_ - 1);
+    }
+
+    // From an estimate to the bin the stored levels give: the estimate is off by at most one
+    // for uniform levels, so the loops almost never turn.
+    int settle(L v, int k) const
+    {
         while (v < lv_[k]) --k;
         while (v >= lv_[k + 1]) ++k;
         return k;
     }
 
+    // Uniform 32f levels, four values at a time.  The position (v - L[0]) * bins / range is
+    // estimated in single precision; its error, with that of the levels' own rounding to
+    // float, stays below `margin_` of a bin, so a fractional part farther than that from
+    // either edge names the bin for certain.  Other values are settled against the stored
+    // levels one by one.
+    void countUniform(const float* row, int n, int stride, uint32_t* h0, uint32_t* h1) const
+    {
+        const __m128 lo = _mm_set1_ps(lv_[0]), hi = _mm_set1_ps(lv_[bins_]);
+        const __m128 scale = _mm_set1_ps(float(scale_));
+        const __m128 margin = _mm_set1_ps(margin_), oneLess = _mm_set1_ps(1.f - margin_);
+        int i = 0;
+        for (; i + 4 <= n; i += 4) {
+            const float* r = row + std::ptrdiff_t(i) * stride;
+            const __m128 v = stride == 1 ? _mm_loadu_ps(r) : _mm_setr_ps(r[0], r[stride], r[2 * stride], r[3 * stride]);
+            const __m128 in = _mm_and_ps(_mm_cmpge_ps(v, lo), _mm_cmplt_ps(v, hi));
+            const __m128 e = _mm_mul_ps(_mm_sub_ps(v, lo), scale);
+            const __m128i k = _mm_cvttps_epi32(e);
+            const __m128 frac = _mm_sub_ps(e, _mm_cvtepi32_ps(k));
+            const __m128 sure = _mm_and_ps(in, _mm_and_ps(_mm_cmpgt_ps(frac, margin), _mm_cmplt_ps(frac, oneLess)));
+            // Lanes leave through registers: a narrow load from a wide store that has not
+            // retired yet would wait for it.
+            const int k0 = _mm_cvtsi128_si32(k), k1 = _mm_cvtsi128_si32(_mm_shuffle_epi32(k, 0x55));
+            const int k2 = _mm_cvtsi128_si32(_mm_shuffle_epi32(k, 0xAA)), k3 = _mm_cvtsi128_si32(_mm_shuffle_epi32(k, 0xFF));
+            if (_mm_movemask_ps(sure) == 0xF) [[likely]] {
+                ++h0[k0], ++h1[k1], ++h0[k2], ++h1[k3];
+            } else {
+                const int inMask = _mm_movemask_ps(in);
+                ++h0[inMask & 1 ? settle(r[0], clampBin(k0)) : bins_];
+                ++h1[inMask & 2 ? settle(r[stride], clampBin(k1)) : bins_];
+                ++h0[inMask & 4 ? settle(r[2 * stride], clampBin(k2)) : bins_];
+                ++h1[inMask & 8 ? settle(r[3 * stride], clampBin(k3)) : bins_];
+            }
+        }
+        for (; i < n; ++i) ++h0[find(row[std::ptrdiff_t(i) * stride])];
+    }
+
 private:
+    // Single-precision estimate: three roundings of at most 2^-24 relative each on a
+    // position below `bins`, and levels rounded to float by at most half an ulp of the larger
+    // bound, which is max|bound| / range * bins * 2^-24 of a bin.  Four times 2^-24 covers
+    // the three roundings and the scale's double-to-float rounding with room to spare.
+    static float marginFor(const L* lv, int bins)
+    {
+        const double range = double(lv[bins]) - double(lv[0]);
+        const double big = std::max(std::fabs(double(lv[0])), std::fabs(double(lv[bins])));
+        const double m = std::ldexp(double(bins) * (4.0 + big / range), -24);
+        return m < 0.25 ? float(m) : 0.5f; // 0.5: nothing is ever sure, every value settled
+    }
+
     const L* lv_;
     int bins_;
     bool uniform_;
     double base_, scale_;
+    float margin_ = marginFor(lv_, bins_);
 };
 
+// Two count rows per channel in the work buffer, each with a slot for values outside the
+// bins; alternate pixels go to alternate rows, so that a run of equal values does not wait
+// on its own stores.  The rows are summed into the output at the end.
 template <class T, int Ch>
-void countWide(const T* src, int srcStep, KroiSize roi, Kro32u* const* hist, const KroiHistogramSpec* spec)
+void countWide(const T* src, int srcStep, KroiSize roi, Kro32u* const* hist, const KroiHistogramSpec* spec,
+               Kro8u* buffer)
 {
     using L = std::conditional_t<std::is_same_v<T, Kro32f>, float, int32_t>;
+    auto* counts = reinterpret_cast<uint32_t*>((reinterpret_cast<uintptr_t>(buffer) + 63) & ~uintptr_t(63));
     for (int c = 0; c < Ch; ++c) {
-        const BinFinder<L> finder(static_cast<const L*>(spec->pLevels[c]), spec->numLevels[c], spec->uniform == 1);
-        Kro32u* h = hist[c];
-        std::memset(h, 0, sizeof(Kro32u) * size_t(spec->numLevels[c] - 1));
+        const int bins = spec->numLevels[c] - 1;
+        const BinFinder<L> finder(static_cast<const L*>(spec->pLevels[c]), bins + 1, spec->uniform == 1);
+        uint32_t* h0 = counts;
+        uint32_t* h1 = counts + bins + 1;
+        std::memset(counts, 0, sizeof(uint32_t) * 2 * size_t(bins + 1));
         for (int y = 0; y < roi.height; ++y) {
-            const T* row = reinterpret_cast<const T*>(reinterpret_cast<const char*>(src) + std::ptrdiff_t(y) * srcStep);
-            for (int x = 0; x < roi.width; ++x) {
-                const int k = finder.find(row[std::ptrdiff_t(x) * Ch + c]);
-                if (k >= 0) ++h[k];
+            const T* row = reinterpret_cast<const T*>(reinterpret_cast<const char*>(src) + std::ptrdiff_t(y) * srcStep) + c;
+            if constexpr (std::is_same_v<T, Kro32f>) {
+                if (finder.uniform()) {
+                    finder.countUniform(row, roi.width, Ch, h0, h1);
+                    continue;
+                }
             }
+            int x = 0;
+            for (; x + 2 <= roi.width; x += 2) {
+                ++h0[finder.find(L(row[std::ptrdiff_t(x) * Ch]))];
+                ++h1[finder.find(L(row[std::ptrdiff_t(x + 1) * Ch]))];
+            }
+            if (x < roi.width) ++h0[finder.find(L(row[std::ptrdiff_t(x) * Ch]))];
         }
+        for (int k = 0; k < bins; ++k) hist[c][k] = h0[k] + h1[k];
     }
 }
 
@@ -159,11 +234,28 @@ void countFull8u(const Kro8u* src, int srcStep, KroiSize roi, uint32_t* tables)
     for (int y = 0; y < roi.height; ++y) {
         const Kro8u* p = src + std::ptrdiff_t(y) * srcStep;
         int x = 0;
-        for (; x + kTables8u <= roi.width; x += kTables8u, p += kTables8u * Ch)
-            for (int t = 0; t < kTables8u; ++t)
-                for (int c = 0; c < Ch; ++c) ++tables[(t * Ch + c) * 256 + p[t * Ch + c]];
-        for (; x < roi.width; ++x, p += Ch)
-            for (int c = 0; c < Ch; ++c) ++tables[c * 256 + p[c]];
+        if constexpr (Ch == 1) {
+            // Eight pixels per load: the loop is bound by memory operations, and one load
+            // for eight leaves each pixel its counter's load and store alone.
+            uint32_t* t0 = tables;
+            uint32_t* t1 = tables + 256;
+            uint32_t* t2 = tables + 512;
+            uint32_t* t3 = tables + 768;
+            for (; x + 8 <= roi.width; x += 8) {
+                uint64_t v;
+                std::memcpy(&v, p + x, 8);
+                const uint32_t lo = uint32_t(v), hi = uint32_t(v >> 32);
+                ++t0[lo & 0xFF], ++t1[(lo >> 8) & 0xFF], ++t2[(lo >> 16) & 0xFF], ++t3[lo >> 24];
+                ++t0[hi & 0xFF], ++t1[(hi >> 8) & 0xFF], ++t2[(hi >> 16) & 0xFF], ++t3[hi >> 24];
+            }
+            for (; x < roi.width; ++x) ++t0[p[x]];
+        } else {
+            for (; x + kTables8u <= roi.width; x += kTables8u, p += kTables8u * Ch)
+                for (int t = 0; t < kTables8u; ++t)
+                    for (int c = 0; c < Ch; ++c) ++tables[(t * Ch + c) * 256 + p[t * Ch + c]];
+            for (; x < roi.width; ++x, p += Ch)
+                for (int c = 0; c < Ch; ++c) ++tables[c * 256 + p[c]];
+        }
     }
 }
 
@@ -214,9 +306,10 @@ KroStatus histogramBufferSize(KroDataType dataType, KroiSize roi, const int* nLe
         if (nLevels[c] > kMaxLevels) return kroStsBadSizeErr;
     if (!knownType(dataType)) return kroStsBadDataTypeErr;
     size_t spec = kSpecHeader;
-    for (int c = 0; c < numChannels; ++c) spec += levelBytes(nLevels[c]);
+    int most = 0;
+    for (int c = 0; c < numChannels; ++c) spec += levelBytes(nLevels[c]), most = std::max(most, nLevels[c]);
     *pSpecSize = int(spec);
-    *pBufferSize = dataType == kro8u ? 256 * 4 * kTables8u * numChannels + 64 : 64;
+    *pBufferSize = dataType == kro8u ? 256 * 4 * kTables8u * numChannels + 64 : 2 * 4 * most + 64;
     return kroStsOk;
 }
 
@@ -298,7 +391,7 @@ KroStatus histogram(const T* pSrc, int srcStep, KroiSize roi, HistArg<Ch> pHist,
             return kroStsBadArgumentErr;
 
     if constexpr (std::is_same_v<T, Kro8u>) histogram8u<Ch>(pSrc, srcStep, roi, hist, pSpec, pBuffer);
-    else countWide<T, Ch>(pSrc, srcStep, roi, hist, pSpec);
+    else countWide<T, Ch>(pSrc, srcStep, roi, hist, pSpec, pBuffer);
     return kroStsOk;
 }
 

@@ -1,8 +1,8 @@
 // Raw moments up to order 3: the kernels and the exact wide sums they are carried in.
 //
 // Integer images.  The region is cut into tiles of at most kStripRows rows by kChunkCols
-// columns.  Down each tile's columns four running sums are kept per element with additions
-// only (A0 += v, A1 += A0, A2 += A1, A3 += A2), which leaves, after R rows, the sums of v
+// columns.  Down each tile's columns four running sums are kept per element, eight columns
+// at a time in registers, with additions only (A0 += v, A1 += A0, A2 += A1, A3 += A2), which leaves, after R rows, the sums of v
 // weighted by 1, t, t(t+1)/2 and t(t+1)(t+2)/6 with t = R - y' (y' the row inside the
 // tile): a polynomial weighting of the rows without a single multiplication in the
 // per-pixel loop.  The largest sum, A3, reaches max(v) * C(R + 3, 4), so a tile has as many
@@ -90,121 +90,119 @@ template <class T>
 constexpr int kStripRows = sizeof(T) == 1 ? 128 : 32;
 static_assert(255ull * (131 * 130 * 129 * 128 / 24) < (1ull << 32));
 static_assert(65535ull * (35 * 34 * 33 * 32 / 24) < (1ull << 32));
-constexpr int kChunkCols = 512; // pixels: the four sum rows of a C4 chunk stay within 32 KB
+constexpr int kChunkCols = 512; // pixels per tile: keeps x'^3 * A0 within 64 bits
 
-// One row of elements into the four running sums: the readable definition.
+// The four running sums of one column of elements down `rows` rows: the readable definition.
 template <class T>
-inline void accumulateRowPlain(const T* row, int n, uint32_t* a0, uint32_t* a1, uint32_t* a2, uint32_t* a3)
+inline void columnPlain(const T* first, int srcStep, int rows, uint32_t (&a)[4])
 {
-    for (int i = 0; i < n; ++i) {
-        a0[i] += row[i];
-        a1[i] += a0[i];
-        a2[i] += a1[i];
-        a3[i] += a2[i];
+    a[0] = a[1] = a[2] = a[3] = 0;
+    for (int y = 0; y < rows; ++y) {
+        a[0] += *reinterpret_cast<const T*>(reinterpret_cast<const char*>(first) + std::ptrdiff_t(y) * srcStep);
+        a[1] += a[0];
+        a[2] += a[1];
+        a[3] += a[2];
     }
 }
 
-inline void cascade(uint32_t* a0, uint32_t* a1, uint32_t* a2, uint32_t* a3, int i, __m128i v)
-{
-    __m128i s0 = _mm_add_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(a0 + i)), v);
-    __m128i s1 = _mm_add_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(a1 + i)), s0);
-    __m128i s2 = _mm_add_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(a2 + i)), s1);
-    __m128i s3 = _mm_add_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(a3 + i)), s2);
-    _mm_storeu_si128(reinterpret_cast<__m128i*>(a0 + i), s0);
-    _mm_storeu_si128(reinterpret_cast<__m128i*>(a1 + i), s1);
-    _mm_storeu_si128(reinterpret_cast<__m128i*>(a2 + i), s2);
-    _mm_storeu_si128(reinterpret_cast<__m128i*>(a3 + i), s3);
-}
-
-inline void accumulateRow(const Kro8u* row, int n, uint32_t* a0, uint32_t* a1, uint32_t* a2, uint32_t* a3)
+// The same for eight neighbouring columns at once, the sums held in registers for the whole
+// walk down the tile, so that each row costs one load and eight additions.
+template <class T>
+inline void columnBlock(const T* first, int srcStep, int rows, uint32_t (&a)[4][8])
 {
     const __m128i z = _mm_setzero_si128();
-    int i = 0;
-    for (; i + 16 <= n; i += 16) {
-        const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(row + i));
-        const __m128i lo = _mm_unpacklo_epi8(v, z), hi = _mm_unpackhi_epi8(v, z);
-        cascade(a0, a1, a2, a3, i, _mm_unpacklo_epi16(lo, z));
-        cascade(a0, a1, a2, a3, i + 4, _mm_unpackhi_epi16(lo, z));
-        cascade(a0, a1, a2, a3, i + 8, _mm_unpacklo_epi16(hi, z));
-        cascade(a0, a1, a2, a3, i + 12, _mm_unpackhi_epi16(hi, z));
+    __m128i l0 = z, l1 = z, l2 = z, l3 = z, h0 = z, h1 = z, h2 = z, h3 = z;
+    const char* p = reinterpret_cast<const char*>(first);
+    for (int y = 0; y < rows; ++y, p += srcStep) {
+        __m128i w;
+        if constexpr (sizeof(T) == 1) w = _mm_unpacklo_epi8(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)), z);
+        else w = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+        l0 = _mm_add_epi32(l0, _mm_unpacklo_epi16(w, z));
+        h0 = _mm_add_epi32(h0, _mm_unpackhi_epi16(w, z));
+        l1 = _mm_add_epi32(l1, l0), h1 = _mm_add_epi32(h1, h0);
+        l2 = _mm_add_epi32(l2, l1), h2 = _mm_add_epi32(h2, h1);
+        l3 = _mm_add_epi32(l3, l2), h3 = _mm_add_epi32(h3, h2);
     }
-    accumulateRowPlain(row + i, n - i, a0 + i, a1 + i, a2 + i, a3 + i);
+    const __m128i v[4][2] = {{l0, h0}, {l1, h1}, {l2, h2}, {l3, h3}};
+    for (int k = 0; k < 4; ++k) {
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(a[k]), v[k][0]);
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(a[k] + 4), v[k][1]);
+    }
 }
 
-inline void accumulateRow(const Kro16u* row, int n, uint32_t* a0, uint32_t* a1, uint32_t* a2, uint32_t* a3)
+// S[p][k] += x^p * A_k for p + k <= 3: one column's share of a tile's sums.
+inline void fold(u128 (&s)[4][4], uint64_t x, uint64_t k0, uint64_t k1, uint64_t k2, uint64_t k3)
 {
-    const __m128i z = _mm_setzero_si128();
-    int i = 0;
-    for (; i + 8 <= n; i += 8) {
-        const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(row + i));
-        cascade(a0, a1, a2, a3, i, _mm_unpacklo_epi16(v, z));
-        cascade(a0, a1, a2, a3, i + 4, _mm_unpackhi_epi16(v, z));
-    }
-    accumulateRowPlain(row + i, n - i, a0 + i, a1 + i, a2 + i, a3 + i);
+    const uint64_t x2 = x * x, x3 = x2 * x;
+    s[0][0] += k0, s[0][1] += k1, s[0][2] += k2, s[0][3] += k3;
+    s[1][0] += u128(x * k0), s[1][1] += u128(x * k1), s[1][2] += u128(x) * k2;
+    s[2][0] += u128(x2) * k0, s[2][1] += u128(x2) * k1;
+    s[3][0] += u128(x3) * k0;
 }
 
 // ---- integer moments ------------------------------------------------------------------------
+
+// A tile's sums S (x' and t = rows - y' counted inside the tile) moved to the region's
+// origin and added into the 256-bit totals of one channel.
+inline void addTile(const u128 (&s)[4][4], int rows, uint64_t x0, uint64_t y0, U256 (&totals)[10])
+{
+    // T[p][q]: the sums weighted by t^q, from the weights 1, t, t(t+1)/2, t(t+1)(t+2)/6.
+    s128 t[4][4] = {};
+    for (int p = 0; p <= 3; ++p) {
+        t[p][0] = s128(s[p][0]);
+        if (p <= 2) t[p][1] = s128(s[p][1]);
+        if (p <= 1) t[p][2] = 2 * s128(s[p][2]) - t[p][1];
+        if (p == 0) t[p][3] = 6 * s128(s[p][3]) - 3 * t[p][2] - 2 * t[p][1];
+    }
+    // L[p][q]: weighted by y'^q = (R - t)^q; exact, and never negative.
+    const s128 R = rows;
+    u128 l[4][4] = {};
+    for (int p = 0; p <= 3; ++p) {
+        l[p][0] = u128(t[p][0]);
+        if (p <= 2) l[p][1] = u128(R * t[p][0] - t[p][1]);
+        if (p <= 1) l[p][2] = u128(R * R * t[p][0] - 2 * R * t[p][1] + t[p][2]);
+        if (p == 0) l[p][3] = u128(R * R * R * t[p][0] - 3 * R * R * t[p][1] + 3 * R * t[p][2] - t[p][3]);
+    }
+    // To the region's origin: (x' + X0)^p (y' + Y0)^q, every term non-negative.
+    const u128 xp[4] = {1, x0, u128(x0) * x0, u128(x0) * x0 * x0};
+    const u128 yp[4] = {1, y0, u128(y0) * y0, u128(y0) * y0 * y0};
+    for (int k = 0; k < 10; ++k) {
+        const int p = kOrders[k][0], q = kOrders[k][1];
+        for (int i = 0; i <= p; ++i)
+            for (int j = 0; j <= q; ++j)
+                if (l[i][j] != 0) totals[k].addProduct(u128(kBinom[p][i] * kBinom[q][j]) * xp[p - i] * yp[q - j], l[i][j]);
+    }
+}
 
 // totals[c][k]: 256-bit M[p][q] of channel c for the k-th order pair of kOrders.
 template <class T, int Elems, int Channels>
 void momentsExact(const T* src, int srcStep, int width, int height, U256 (&totals)[3][10])
 {
-    constexpr int kMaxElems = kChunkCols * 4;
-    alignas(16) uint32_t a[4][kMaxElems];
     for (int y0 = 0; y0 < height; y0 += kStripRows<T>) {
         const int rows = height - y0 < kStripRows<T> ? height - y0 : kStripRows<T>;
+        const T* strip = reinterpret_cast<const T*>(reinterpret_cast<const char*>(src) + std::ptrdiff_t(y0) * srcStep);
         for (int x0 = 0; x0 < width; x0 += kChunkCols) {
             const int cols = width - x0 < kChunkCols ? width - x0 : kChunkCols;
             const int n = cols * Elems;
-            for (auto& r : a) std::memset(r, 0, sizeof(uint32_t) * size_t(n));
-            for (int y = 0; y < rows; ++y) {
-                const T* row = reinterpret_cast<const T*>(reinterpret_cast<const char*>(src) +
-                                                          std::ptrdiff_t(y0 + y) * srcStep) +
-                               std::ptrdiff_t(x0) * Elems;
-                accumulateRow(row, n, a[0], a[1], a[2], a[3]);
-            }
-            for (int c = 0; c < Channels; ++c) {
-                // S[p][k] = sum over the tile's columns of x'^p * A_k, p + k <= 3.
-                u128 s[4][4] = {};
-                for (int x = 0; x < cols; ++x) {
-                    const uint64_t x1 = uint64_t(x), x2 = x1 * x1, x3 = x2 * x1;
-                    const int e = x * Elems + c;
-                    const uint64_t k0 = a[0][e], k1 = a[1][e], k2 = a[2][e], k3 = a[3][e];
-                    s[0][0] += k0, s[0][1] += k1, s[0][2] += k2, s[0][3] += k3;
-                    s[1][0] += u128(x1 * k0), s[1][1] += u128(x1 * k1), s[1][2] += u128(x1) * k2;
-                    s[2][0] += u128(x2) * k0, s[2][1] += u128(x2) * k1;
-                    s[3][0] += u128(x3) * k0;
-                }
-                // T[p][q]: the same sums weighted by t^q, t = rows - y'.
-                s128 t[4][4] = {};
-                for (int p = 0; p <= 3; ++p) {
-                    t[p][0] = s128(s[p][0]);
-                    if (p <= 2) t[p][1] = s128(s[p][1]);
-                    if (p <= 1) t[p][2] = 2 * s128(s[p][2]) - t[p][1];
-                    if (p == 0) t[p][3] = 6 * s128(s[p][3]) - 3 * t[p][2] - 2 * t[p][1];
-                }
-                // L[p][q]: weighted by y'^q = (R - t)^q; exact, and never negative.
-                const s128 R = rows;
-                u128 l[4][4] = {};
-                for (int p = 0; p <= 3; ++p) {
-                    l[p][0] = u128(t[p][0]);
-                    if (p <= 2) l[p][1] = u128(R * t[p][0] - t[p][1]);
-                    if (p <= 1) l[p][2] = u128(R * R * t[p][0] - 2 * R * t[p][1] + t[p][2]);
-                    if (p == 0) l[p][3] = u128(R * R * R * t[p][0] - 3 * R * R * t[p][1] + 3 * R * t[p][2] - t[p][3]);
-                }
-                // To the region's origin: (x' + X0)^p (y' + Y0)^q, every term non-negative.
-                u128 xp[4] = {1, u128(x0), u128(x0) * u128(x0), u128(x0) * u128(x0) * u128(x0)};
-                u128 yp[4] = {1, u128(y0), u128(y0) * u128(y0), u128(y0) * u128(y0) * u128(y0)};
-                for (int k = 0; k < 10; ++k) {
-                    const int p = kOrders[k][0], q = kOrders[k][1];
-                    for (int i = 0; i <= p; ++i)
-                        for (int j = 0; j <= q; ++j) {
-                            if (l[i][j] == 0) continue;
-                            const u128 coef = u128(kBinom[p][i] * kBinom[q][j]) * xp[p - i] * yp[q - j];
-                            totals[c][k].addProduct(coef, l[i][j]);
-                        }
+            const T* tile = strip + std::ptrdiff_t(x0) * Elems;
+            u128 s[Channels][4][4] = {};
+            int e = 0;
+            for (; e + 8 <= n; e += 8) {
+                uint32_t a[4][8];
+                columnBlock(tile + e, srcStep, rows, a);
+                for (int j = 0; j < 8; ++j) {
+                    const int c = (e + j) % Elems;
+                    if (c < Channels) fold(s[c], uint64_t((e + j) / Elems), a[0][j], a[1][j], a[2][j], a[3][j]);
                 }
             }
+            for (; e < n; ++e) {
+                const int c = e % Elems;
+                if (c >= Channels) continue;
+                uint32_t a[4];
+                columnPlain(tile + e, srcStep, rows, a);
+                fold(s[c], uint64_t(e / Elems), a[0], a[1], a[2], a[3]);
+            }
+            for (int c = 0; c < Channels; ++c) addTile(s[c], rows, uint64_t(x0), uint64_t(y0), totals[c]);
         }
     }
 }

@@ -299,3 +299,38 @@ TEST(Histogram, ChecksInOrderAndNothingWritten)
 }
 
 }  // namespace
+
+namespace {
+
+// Uniform 32f bins decide edge values by the stored levels, not by the estimate that finds
+// them: every level, its neighbours one ulp away, and awkward bounds.
+TEST(Histogram, UniformFloatEdgesFollowTheStoredLevels)
+{
+    auto rng = kt::rngForTest();
+    const float bounds[][2] = {{0.f, 1.f}, {-0.3f, 0.7f}, {1000.1f, 1000.9f}, {-1e6f, 3.f}, {0.1f, 0.1000061f}};
+    for (auto [lo, hi] : bounds)
+        for (int n : {2, 3, 65, 257, 1001}) {
+            // Bounds too close for the level count are refused (-7), and skipped here.
+            std::vector<Kro8u> scratch(size_t(64 + 4 * n + 16));
+            auto* probe = reinterpret_cast<KroiHistogramSpec*>(scratch.data());
+            if (kroiHistogramUniformInit(kro32f, &lo, &hi, &n, 1, probe) != kroStsOk) continue;
+            const std::vector<std::vector<Kro32f>> shape{std::vector<Kro32f>(static_cast<size_t>(n))};
+            std::vector<Kro32f> levels = shape[0];
+            void* out[1] = {levels.data()};
+            ASSERT_EQ(kroiHistogramGetLevels(probe, out), kroStsOk);
+            std::vector<float> values;
+            for (float l : levels)
+                values.insert(values.end(), {l, std::nextafter(l, -INFINITY), std::nextafter(l, INFINITY)});
+            for (int i = 0; i < 200; ++i) values.push_back(lo + (hi - lo) * float(kt::uniform<int>(rng, -50, 1050)) / 1000);
+            const int w = int(values.size());
+            kt::Guarded<Kro32f> img(w, 1, 1);
+            for (int x = 0; x < w; ++x) img.at(x, 0) = values[size_t(x)];
+            Spec sized = makeSpec<Kro32f>(shape, {w, 1}, true, &lo, &hi);
+            std::vector<Kro32u> h(size_t(n - 1));
+            ASSERT_EQ(kroiHistogram_32f_C1R(img.ptr(), img.step(), {w, 1}, h.data(), sized.get(), sized.buffer.data()),
+                      kroStsOk);
+            ASSERT_EQ(h, directCount(img, 0, levels)) << lo << " " << hi << " " << n;
+        }
+}
+
+}  // namespace
