@@ -6,3 +6,7 @@ set_source_files_properties(stat/moments_test.cpp PROPERTIES COMPILE_OPTIONS -ms
 
 # Histograms: every member against a direct count, initialisers, check orders.
 kroi_add_test(histogram_test stat/histogram_test.cpp)
+
+# kroi hist and kroi moments on the demo's input, then usage errors.
+add_test(NAME kroi_momhist COMMAND ${CMAKE_COMMAND} -DKROI=$<TARGET_FILE:kroi>
+         -DOUT=${CMAKE_CURRENT_BINARY_DIR}/kroi-momhist -P ${CMAKE_CURRENT_SOURCE_DIR}/stat/momhist_kroi.cmake)

@@ -56,6 +56,10 @@ int runBox(const Args& args);    // border.cpp
 int runDilate(const Args& args); // minmax.cpp
 int runErode(const Args& args);  // minmax.cpp
 // end of section MINMAX
+// section MOMHIST
+int runHist(const Args& args);    // momhist.cpp
+int runMoments(const Args& args); // momhist.cpp
+// end of section MOMHIST
 
 // One line of library identification ("kroIP SSE3 (t3) 2026.0.0 (r0x00000001), Nov 2 2026").
 std::string libraryLine();

@@ -139,6 +139,10 @@ Image dilate8u(DemoContext& ctx); // demo_minmax.cpp
 Image erode8u(DemoContext& ctx);
 Image opening8u(DemoContext& ctx);
 // end of section MINMAX
+// section MOMHIST
+Image histogram8u(DemoContext& ctx); // demo_momhist.cpp
+Image moments8u(DemoContext& ctx);
+// end of section MOMHIST
 
 // The built-in inputs (sample.cpp): deterministic, the same on every run.
 Image makeScene(int width, int height);  // 8-bit RGB scene

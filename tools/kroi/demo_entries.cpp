@@ -160,6 +160,10 @@ constexpr DemoEntry kEntries[] = {
     {"erode-8u-c3-15x3", "kroiFilterMinBorder_8u_C3R(src, step, dst, step, {512, 384}, {15, 3}, kroBorderMirror, 0, buf)", erode8u},
     {"opening-8u-c3-31x31", "kroiFilterMinBorder_8u_C3R(src, ..., tmp, ..., {31, 31}, kroBorderReplicate, 0, buf); kroiFilterMaxBorder_8u_C3R(tmp, ..., dst, ..., {31, 31}, ...)", opening8u},
     // end of section MINMAX
+    // section MOMHIST
+    {"histogram-8u-c3", "kroiHistogram_8u_C3R(src, srcStep, {512, 384}, (Kro32u*[]){r, g, b}, spec, buffer)", histogram8u},
+    {"moments-8u-c1", "kroiMoments64f_8u_C1R(luma, lumaStep, {512, 384}, &state)", moments8u},
+    // end of section MOMHIST
 };
 
 } // namespace

@@ -110,6 +110,10 @@ constexpr Command kCommands[] = {
      "    minimum over a W x H rectangle (8/16-bit gray, RGB, RGBA; alpha kept)",
      runErode},
     // end of section MINMAX
+    // section MOMHIST
+    {"hist", "kroi hist IN.png OUT.png [--bins N]\n    per-channel histogram over N uniform bins (default 256) drawn as a bar chart", runHist},
+    {"moments", "kroi moments IN.png\n    centroid, orientation and Hu invariants of each channel", runMoments},
+    // end of section MOMHIST
     {"png-roundtrip", nullptr, runPngRoundtrip},
 };
 
