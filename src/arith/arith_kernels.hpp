@@ -400,6 +400,10 @@ struct Scaled {
         const __m128i big = _mm_andnot_si128(_mm_cmpeq_epi16(hi, _mm_setzero_si128()), _mm_set1_epi8(-1));
         if constexpr (M == Mode::Plain) {
             return _mm_or_si128(lo, big);
+        } else if constexpr (M == Mode::Bound) {
+            // Every non-zero product saturates (16u reaches this only at INT_MIN).
+            const __m128i zero = _mm_cmpeq_epi16(_mm_or_si128(lo, hi), _mm_setzero_si128());
+            return _mm_andnot_si128(zero, _mm_set1_epi8(-1));
         } else if constexpr (M == Mode::Up) {
             __m128i r[2];
             W::widen(lo, r);

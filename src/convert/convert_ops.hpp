@@ -159,7 +159,9 @@ struct WideToInt {
     double f1, f2;
     WideToInt(int roundMode, int scaleFactor) : mode(roundMode)
     {
-        const int s = scaleFactor < -2200 ? -2200 : scaleFactor > 2200 ? 2200 : scaleFactor;
+        // Past +-2000 every finite product is already 0 or saturated; each half stays normal, so
+        // an infinity times the factor stays infinite rather than becoming inf x 0.
+        const int s = scaleFactor < -2000 ? -2000 : scaleFactor > 2000 ? 2000 : scaleFactor;
         f1 = std::ldexp(1.0, -(s / 2));
         f2 = std::ldexp(1.0, -(s - s / 2));
     }

@@ -14,6 +14,7 @@
 // call, otherwise the last piece's status is returned.
 #pragma once
 
+#include <climits>
 #include <cstddef>
 
 #include "frame/base.hpp"
@@ -63,7 +64,11 @@ KroStatus run(const int64_t (&steps)[N], KroiSizeL roi, Narrow&& narrow, Piece&&
     for (int64_t y = 0; y < roi.height; ++y) {
         for (int64_t x = 0;; x += Rule::kPiece) {
             const int64_t left = roi.width - x;
-            status = piece(y, x, static_cast<int>(left < Rule::kPiece ? left : Rule::kPiece));
+            // A width below 1 goes to the row function as a length below 1 of its own: the
+            // low 32 bits of a width under INT_MIN may be positive, so it is not narrowed.
+            const int len = left < 1 ? (left < INT_MIN ? INT_MIN : static_cast<int>(left))
+                                     : static_cast<int>(left < Rule::kPiece ? left : Rule::kPiece);
+            status = piece(y, x, len);
             if (status < 0) return status;
             if (left <= Rule::kPiece) break;
         }

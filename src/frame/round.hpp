@@ -37,10 +37,12 @@ constexpr int64_t scaleRoundEven(int64_t v, int s)
 {
     if (s >= 0) return shiftRoundEven(v, s);
     if (v == 0) return 0;
-    const int up = -s;
     constexpr int64_t kMax = std::numeric_limits<int64_t>::max();
     constexpr int64_t kMin = std::numeric_limits<int64_t>::min();
-    if (up >= 63 || v > (kMax >> up) || v < (kMin >> up)) return v > 0 ? kMax : kMin;
+    // Compared before negating: -s overflows at INT_MIN, and every shift past 62 saturates.
+    if (s < -62) return v > 0 ? kMax : kMin;
+    const int up = -s;
+    if (v > (kMax >> up) || v < (kMin >> up)) return v > 0 ? kMax : kMin;
     return static_cast<int64_t>(static_cast<uint64_t>(v) << up);
 }
 

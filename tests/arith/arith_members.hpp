@@ -264,8 +264,9 @@ inline bool divides(Op op) { return op == Op::Div || op == Op::DivRound; }
 inline ref::i128 divRound(ref::i128 x, ref::i128 y, int s, int mode)
 {
     ref::i128 num = x, den = y;
-    for (int i = 0; i < -s && i < 100; ++i) num *= 2;
-    for (int i = 0; i < s && i < 100; ++i) den *= 2;
+    const int up = s < -100 ? 100 : s < 0 ? -s : 0, down = s > 100 ? 100 : s > 0 ? s : 0;
+    for (int i = 0; i < up; ++i) num *= 2;
+    for (int i = 0; i < down; ++i) den *= 2;
     if (den < 0) num = -num, den = -den;
     ref::i128 q = num / den, r = num % den; // truncated
     if (mode == 0) return q;

@@ -1,6 +1,7 @@
 // Every member against the rule on random images: every scale factor from -20 to 20, odd and
 // vector-sized widths, padded steps, guard pages before and after, in place and out of place,
 // the _L forms both forwarded and on their long path.
+#include <climits>
 #include "arith/arith_members.hpp"
 
 namespace arith_test {
@@ -62,9 +63,12 @@ void sweep()
     for (const auto& m : members<T>()) {
         const int modes = m.op == Op::DivRound ? 3 : 1;
         for (int mode = 0; mode < modes; ++mode)
-            for (int s = -22; s <= 22; ++s) {
-                // -20..20, and beyond: the clamps of the shifts and the last 16u products.
-                const int scale = s == -22 ? -40 : s == -21 ? 31 : s == 21 ? 32 : s == 22 ? 33 : s;
+            for (int s = -26; s <= 26; ++s) {
+                // -20..20, and beyond: the clamps of the shifts, the last 16u products, and
+                // the ends of int, where negating or shifting by the factor would overflow.
+                const int scale = s == -26 ? INT_MIN : s == -25 ? INT_MIN + 1 : s == -24 ? -32 : s == -23 ? -33
+                                : s == -22 ? -40 : s == -21 ? 31 : s == 21 ? 32 : s == 22 ? 33 : s == 23 ? 63
+                                : s == 24 ? 64 : s == 25 ? INT_MAX - 1 : s == 26 ? INT_MAX : s;
                 checkForms(m, Params{scale, m.op == Op::DivRound ? mode : 1}, kWidths[k++ % std::size(kWidths)], rng);
                 if (testing::Test::HasFailure()) return; // one member's failure is enough to read
             }
@@ -86,6 +90,10 @@ TEST(ArithRule, Every32fMember)
 // one-row images goes through the row function; the results and the status are the rule's.
 // Height 0 returns 0 there without any other check, a width of 0 reaches the row function's
 // length check, and a null pointer its pointer check.
+constexpr int64_t kNegativeWidths[] = {
+    -(int64_t{1} << 32) + 1, -(int64_t{1} << 32), -(int64_t{1} << 32) - 1, -(int64_t{1} << 31) + 1,
+    -(int64_t{1} << 31),     -(int64_t{1} << 31) - 1, INT64_MIN, -3639531663080023339, -1};
+
 template <class T>
 void longPath()
 {
@@ -115,6 +123,16 @@ void longPath()
         EXPECT_EQ(m.rl(a.ptr(), huge, a.ptr(), huge, d.ptr(), huge, KroiSizeL{1, 0}, p), kroStsOk) << m.name;
         EXPECT_EQ(m.rl(a.ptr(), huge, a.ptr(), huge, d.ptr(), huge, KroiSizeL{0, 1}, p), kroStsBadSizeErr) << m.name;
         EXPECT_EQ(m.irl(nullptr, huge, d.ptr(), huge, KroiSizeL{1, 1}, p), kroStsNullPointerErr) << m.name;
+        // Negative widths whose low 32 bits are positive, zero or negative: each reaches the
+        // row function as a length below 1, whatever the steps.
+        for (int64_t width : kNegativeWidths)
+            for (int64_t step : {int64_t{64}, huge})
+                for (int64_t height : {1, 2}) {
+                    EXPECT_EQ(m.rl(a.ptr(), step, a.ptr(), step, d.ptr(), step, KroiSizeL{width, height}, p),
+                              kroStsBadSizeErr) << m.name << " width " << width;
+                    EXPECT_EQ(m.irl(a.ptr(), step, d.ptr(), step, KroiSizeL{width, height}, p), kroStsBadSizeErr)
+                        << m.name << " width " << width;
+                }
         EXPECT_TRUE(d.unchangedSince(before)) << m.name;
     }
 }

@@ -43,6 +43,16 @@ void longFormsOf(std::span<const CMember<T, More...>> members, T (*rule)(T, T, i
         EXPECT_EQ(m.rl(nullptr, kFar, k, img.ptr(), kFar, {4, 1}, more...), kroStsNullPointerErr);
         EXPECT_EQ(m.rl(img.ptr(), kFar, k, img.ptr(), kFar, {0, 1}, more...), kroStsBadSizeErr);
         EXPECT_EQ(m.rl(img.ptr(), 64, k, img.ptr(), 64, {0, 1}, more...), kroStsBadSizeErr) << "narrowed";
+        // Negative widths whose low 32 bits are positive, zero or negative: each reaches the
+        // row function as a length below 1, whatever the steps.
+        for (int64_t w : {-(int64_t{1} << 32) + 1, -(int64_t{1} << 32), -(int64_t{1} << 32) - 1,
+                          -(int64_t{1} << 31) + 1, -(int64_t{1} << 31), -(int64_t{1} << 31) - 1, INT64_MIN,
+                          int64_t{-3639531663080023339}})
+            for (int64_t step : {int64_t{64}, kFar})
+                for (int64_t h : {1, 2}) {
+                    EXPECT_EQ(m.rl(img.ptr(), step, k, img.ptr(), step, {w, h}, more...), kroStsBadSizeErr) << w;
+                    EXPECT_EQ(m.il(k, img.ptr(), step, {w, h}, more...), kroStsBadSizeErr) << w;
+                }
         if (divides) {
             const T zero[4] = {};
             EXPECT_EQ(m.rl(img.ptr(), kFar, zero, img.ptr(), kFar, {4, 1}, more...), kroStsZeroDivisorErr);

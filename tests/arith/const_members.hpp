@@ -151,8 +151,11 @@ struct DivR {
     static T f(T v, T k, int s)
     {
         ref::i128 num = v, den = k;
-        if (s < 0) num *= ref::i128(1) << -s;
-        else den *= ref::i128(1) << s;
+        // Shifts past 100 give the same result as 100 (beyond every quotient's reach), and
+        // keep -s from overflowing at INT_MIN.
+        const int c = s < -100 ? -100 : s > 100 ? 100 : s;
+        if (c < 0) num *= ref::i128(1) << -c;
+        else den *= ref::i128(1) << c;
         if (den < 0) num = -num, den = -den;
         ref::i128 q = num / den, r = num % den;
         if (r < 0) q -= 1, r += den;

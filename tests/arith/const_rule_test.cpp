@@ -1,17 +1,26 @@
 // Arithmetic with constants against its rule: every integer member at every scale factor from
 // -40 to 40, past every fill threshold, in place and out of place between guard pages, AC4
 // alpha untouched; a few worked values.
+#include <climits>
 #include "arith/const_members.hpp"
 
 namespace const_test {
 namespace {
+
+// -40..40, and the ends of int, where negating or shifting by the factor would overflow.
+std::vector<int> scaleFactors()
+{
+    std::vector<int> s{INT_MIN, INT_MIN + 1, -64, -63, 63, 64, INT_MAX - 1, INT_MAX};
+    for (int k = -40; k <= 40; ++k) s.push_back(k);
+    return s;
+}
 
 template <class R, class T, std::size_t N>
 void everyScaleFactor(const CMember<T, int> (&members)[N])
 {
     kt::Rng rng = kt::rngForTest();
     for (const auto& m : members)
-        for (int s = -40; s <= 40; ++s) {
+        for (int s : scaleFactors()) {
             SCOPED_TRACE("scale factor " + std::to_string(s));
             T k[4];
             drawConstants(rng, s % 2 != 0, kDivides<R>, k);

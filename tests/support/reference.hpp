@@ -23,7 +23,10 @@ constexpr i128 kHuge = i128(1) << 120;
 constexpr i128 scaleRoundEven(i128 v, int s)
 {
     if (s <= 0) {
-        for (int i = 0; i < -s; ++i) {
+        // Past 128 doublings every non-zero value has reached kHuge; the bound also keeps -s
+        // from overflowing at INT_MIN.
+        const int up = s < -128 ? 128 : -s;
+        for (int i = 0; i < up; ++i) {
             if (v >= kHuge / 2) return kHuge;
             if (v <= -kHuge / 2) return -kHuge;
             v *= 2;
