@@ -1859,8 +1859,11 @@ KroStatus kroiSwapChannels_8u_C4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiS
  * row y); roiSize is the source's size, the destination is height x width.
  *   pSrc == pDst with equal steps is handed to the in-place form before any check.
  *   Checks: null -8; width < 1 or height < 1 -6.  Steps are used as given.
- *   In place (IR): null -8; width or height < 1 -6; a region that is not square -6 (its
- *   transpose would not occupy the same memory).
+ *   In place (IR): null -8; width or height < 1 -6.  A region of any shape: the memory at
+ *   the step must hold both the height x width source and the width x height result; a
+ *   square one is swapped tile by tile, any other is first copied to a block from kroMalloc_L
+ *   (kroStsNoMemoryErr -9, nothing written, when it cannot be had).  Elements of the source
+ *   outside the result keep their values.
  *   The image is processed in cache-sized square tiles. */
 KroStatus kroiTranspose_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
 KroStatus kroiTranspose_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);

@@ -12,6 +12,7 @@
 #include <emmintrin.h>
 
 #include "frame/base.hpp"
+#include "krocore.h"
 #include "frame/bind.hpp"
 #include "frame/check.hpp"
 
@@ -126,14 +127,28 @@ void transposeSquare(Byte* p, std::ptrdiff_t step, int n)
 
 }  // namespace
 
-// A region that is not square cannot be transposed onto itself in place: -6.
+// In place.  A square region swaps its tiles pairwise.  Any other shape: the caller's memory
+// holds both the height x width source and the width x height result at the same step, and
+// the two overlap in no order that a tile walk could follow, so the source is copied to a
+// block from kroMalloc_L first (-9, nothing written, when it cannot be had) and transposed
+// from there.
 template <class T, int C>
 KroStatus transposeI(T* pSrcDst, int srcDstStep, KroiSize roiSize)
 {
     KROI_CHECK(check::pointers(pSrcDst));
     KROI_CHECK(check::roi(roiSize));
-    if (roiSize.width != roiSize.height) return kroStsBadSizeErr;
-    transposeSquare<int(sizeof(T)) * C>(reinterpret_cast<Byte*>(pSrcDst), srcDstStep, roiSize.width);
+    constexpr int P = int(sizeof(T)) * C;
+    Byte* p = reinterpret_cast<Byte*>(pSrcDst);
+    if (roiSize.width == roiSize.height) {
+        transposeSquare<P>(p, srcDstStep, roiSize.width);
+        return kroStsOk;
+    }
+    const std::ptrdiff_t rowBytes = std::ptrdiff_t(roiSize.width) * P;
+    Byte* copy = static_cast<Byte*>(kroMalloc_L(rowBytes * roiSize.height));
+    if (!copy) return kroStsNoMemoryErr;
+    for (int y = 0; y < roiSize.height; ++y) std::memcpy(copy + y * rowBytes, p + std::ptrdiff_t(y) * srcDstStep, std::size_t(rowBytes));
+    transposeRect<P>(copy, rowBytes, p, srcDstStep, roiSize.width, roiSize.height);
+    kroFree(copy);
     return kroStsOk;
 }
 
