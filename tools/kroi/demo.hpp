@@ -61,6 +61,10 @@ public:
     // in, choosing values), so that no reader takes the program's work for the library's.
     std::string note;
 
+    // Set by an entry whose timed call does not pass over the result's pixels (an
+    // allocation): the gallery then gives its time per call and no pixel rate.
+    bool perCallOnly = false;
+
     bool usedSecond() const { return usedSecond_; }
     double medianMs() const { return medianMs_; } // negative until time() ran
     int runs() const { return runs_; }

@@ -1,8 +1,6 @@
 // The demo registry.  One table line and one function per entry; the table at the bottom
-// sets the gallery order.  The library has only its frame so far (version record, image
-// allocation), so the entries show the allocators: the step each one chooses, and the
-// sample placed into their blocks and written as 8- and 16-bit PNGs of every colour type.
-// Each family of operations adds its entries here as it arrives.
+// sets the gallery order: the families' operations, each in its section, then one allocator
+// entry, whose time is an allocation and release rather than a pass over pixels.
 #include <cmath>
 #include <cstdint>
 #include <string>
@@ -19,6 +17,7 @@ template <class T, T* (*Alloc)(int, int, int*)>
 Image allocate(DemoContext& ctx, const char* name, int width, int height, int channels, int depth)
 {
     int step = 0;
+    ctx.perCallOnly = true;
     ctx.time(name, [&] {
         T* p = Alloc(width, height, &step);
         const bool got = p != nullptr;
@@ -33,12 +32,6 @@ Image allocate(DemoContext& ctx, const char* name, int width, int height, int ch
                std::to_string(reinterpret_cast<uintptr_t>(block) % 64) + " bytes past a 64-byte boundary. ";
     return Image::adopt(block, step, width, height, channels, depth);
 }
-
-// 8-bit scene value v as 16 bits: v x 257 maps 0..255 onto 0..65535 exactly.
-uint16_t widen(uint8_t v) { return uint16_t(v * 257); }
-
-// Integer luma with weights 77, 150, 29 (sum 256), rounded: the program's own, not the library's.
-uint8_t luma(const uint8_t* rgb) { return uint8_t((77 * rgb[0] + 150 * rgb[1] + 29 * rgb[2] + 128) >> 8); }
 
 Image rgba8u(DemoContext& ctx)
 {
@@ -56,58 +49,7 @@ Image rgba8u(DemoContext& ctx)
     return d;
 }
 
-Image crop8u(DemoContext& ctx)
-{
-    const Image& s = ctx.first();
-    constexpr int kX = 90, kY = 60, kW = 333, kH = 250;
-    Image d = allocate<Kro8u, kroiMalloc_8u_C3>(ctx, "kroiMalloc_8u_C3", kW, kH, 3, 8);
-    for (int y = 0; y < kH; ++y)
-        for (int i = 0; i < 3 * kW; ++i) d.row<uint8_t>(y)[i] = s.row<uint8_t>(kY + y)[3 * kX + i];
-    ctx.note += "The program copies in the window at (90, 60): an odd width shows the padding.";
-    return d;
-}
-
-Image rgb16u(DemoContext& ctx)
-{
-    const Image& s = ctx.first();
-    Image d = allocate<Kro16u, kroiMalloc_16u_C3>(ctx, "kroiMalloc_16u_C3", s.width, s.height, 3, 16);
-    for (int y = 0; y < s.height; ++y)
-        for (int i = 0; i < 3 * s.width; ++i) d.row<uint16_t>(y)[i] = widen(s.row<uint8_t>(y)[i]);
-    ctx.note += "The program stores each value v as v x 257; written as a 16-bit PNG.";
-    return d;
-}
-
-Image gray8u(DemoContext& ctx)
-{
-    const Image& s = ctx.first();
-    Image d = allocate<Kro8u, kroiMalloc_8u_C1>(ctx, "kroiMalloc_8u_C1", s.width, s.height, 1, 8);
-    for (int y = 0; y < s.height; ++y)
-        for (int x = 0; x < s.width; ++x) d.row<uint8_t>(y)[x] = luma(s.row<uint8_t>(y) + 3 * x);
-    ctx.note += "The program computes the gray level (77 R + 150 G + 29 B) / 256.";
-    return d;
-}
-
-Image grayAlpha16u(DemoContext& ctx)
-{
-    const Image& s = ctx.first();
-    Image d = allocate<Kro16u, kroiMalloc_16u_C2>(ctx, "kroiMalloc_16u_C2", s.width, s.height, 2, 16);
-    for (int y = 0; y < s.height; ++y)
-        for (int x = 0; x < s.width; ++x) {
-            uint16_t* q = d.row<uint16_t>(y) + 2 * x;
-            q[0] = widen(luma(s.row<uint8_t>(y) + 3 * x));
-            q[1] = uint16_t(65535L * x / (s.width - 1));
-        }
-    ctx.note += "The program writes the gray level x 257 and an alpha ramp from 0 at the left "
-                "to 65535 at the right; a 16-bit gray+alpha PNG.";
-    return d;
-}
-
 constexpr DemoEntry kEntries[] = {
-    {"alloc-8u-c4", "p = kroiMalloc_8u_C4(512, 384, &step); kroiFree(p)", rgba8u},
-    {"alloc-8u-c3-odd", "p = kroiMalloc_8u_C3(333, 250, &step); kroiFree(p)", crop8u},
-    {"alloc-16u-c3", "p = kroiMalloc_16u_C3(512, 384, &step); kroiFree(p)", rgb16u},
-    {"alloc-8u-c1", "p = kroiMalloc_8u_C1(512, 384, &step); kroiFree(p)", gray8u},
-    {"alloc-16u-c2", "p = kroiMalloc_16u_C2(512, 384, &step); kroiFree(p)", grayAlpha16u},
     // section COPYSET
     {"set-8u-c3-masked", "kroiSet_8u_C3MR(orange, dst, dstStep, {512, 384}, ring, ringStep)", demoSetMasked},
     {"copy-8u-c3-masked", "kroiCopy_8u_C3MR(src2, src2Step, dst, dstStep, {512, 384}, ring, ringStep)", demoCopyMasked},
@@ -164,6 +106,7 @@ constexpr DemoEntry kEntries[] = {
     {"histogram-8u-c3", "kroiHistogram_8u_C3R(src, srcStep, {512, 384}, (Kro32u*[]){r, g, b}, spec, buffer)", histogram8u},
     {"moments-8u-c1", "kroiMoments64f_8u_C1R(luma, lumaStep, {512, 384}, &state)", moments8u},
     // end of section MOMHIST
+    {"alloc-8u-c4", "p = kroiMalloc_8u_C4(512, 384, &step); kroiFree(p)", rgba8u},
 };
 
 } // namespace
