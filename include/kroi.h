@@ -2341,7 +2341,10 @@ KroStatus kroiCopyWrapBorder_32f_C1IR_L(Kro32f* pSrcDst, int64_t srcDstStep, Kro
  * invalid: -225; constant mode (low nibble 6) with a null pBorderValue: -8.  The members
  * 8u_C1R, 8u_AC4R, 16u_AC4R and 32f_C1R check in that order; all the others check the
  * border code first and then the rest in the same order.  Every kroiSumWindow member checks
- * in the first order.  kroiSumWindow_32f with pSrc == pDst sums in place safely. */
+ * in the first order.  Last, every member refuses with -6, before reading or writing
+ * anything, a call whose work area (the query's size in exact arithmetic) exceeds 2^31 - 1
+ * bytes: the query gives -232 for it, so no buffer can have been sized for it.
+ * kroiSumWindow_32f with pSrc == pDst sums in place safely. */
 KroStatus kroiFilterBoxBorderGetBufferSize(KroiSize roiSize, KroiSize maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
 KroStatus kroiFilterBoxBorder_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
 KroStatus kroiFilterBoxBorder_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
@@ -2459,7 +2462,10 @@ KroStatus kroiFilterBox_64f_C1R(const Kro64f* pSrc, int srcStep, Kro64f* pDst, i
  * Filter checks, in order: null pSrc, pDst or pBuffer: -8; ROI width or height < 1: -6; mask
  * width or height < 1: -33; border code above 255, or not 0xF0 with a low nibble other than
  * 1, 3, 6: kroStsBadBorderErr (-225); then, only when the constant mode synthesises some
- * side, a null pBorderValue: -8.  Steps are not checked; they are used as given. */
+ * side, a null pBorderValue: -8; last, a call whose work area, the query's formula in exact
+ * arithmetic, exceeds 2^31 - 1 bytes: -6 (the query's 32-bit result wraps there, and a buffer
+ * of that size would be overrun), before anything is read or written.  Steps are not
+ * checked; they are used as given. */
 KroStatus kroiFilterMaxBorderGetBufferSize(KroiSize roiSize, KroiSize maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
 KroStatus kroiFilterMinBorderGetBufferSize(KroiSize roiSize, KroiSize maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
 KroStatus kroiFilterMaxBorder_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);

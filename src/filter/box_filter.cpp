@@ -23,6 +23,7 @@ KroStatus filterBoxIn(const T* src, int srcStep, T* dst, int dstStep, KroiSize r
     if constexpr (Order == CheckOrder::PointersFirst) KROI_CHECK(border::checkFilterMode(code));
     T pad[4] = {};
     KROI_CHECK((borderValue<T, WC>(code, value, pad)));
+    KROI_CHECK((checkWorkArea<T, C>(roi, mask)));
     if constexpr (std::is_same_v<T, float>)
         if (mask.width == 1 && mask.height == 1) { // the mean of one pixel is the pixel
             if (src != dst)

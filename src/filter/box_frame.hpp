@@ -86,6 +86,15 @@ inline KroStatus bufferSize(KroiSize roi, KroiSize mask, KroDataType type, int c
     return kroStsOk;
 }
 
+// An operation's own refusal of a call whose work area, the query's areas in exact
+// arithmetic, exceeds 2^31 - 1 bytes: no query can have described a buffer for it, so a
+// buffer passed for it is too small (-6, before anything is read or written).
+template <class T, int C>
+inline KroStatus checkWorkArea(KroiSize roi, KroiSize mask)
+{
+    return areas(roi, mask, sizeof(T), C == 4 ? 4 : C).total() > 0x7FFFFFFF ? kroStsBadSizeErr : kroStsOk;
+}
+
 template <class P>
 P* alignUp(void* p, std::size_t a)
 {

@@ -48,17 +48,35 @@ inline uint32_t elementSize(KroDataType t)
 }
 
 // Pixels of area S: the border rows and columns of the streaming path when the image is
-// larger than the mask in both directions, else a whole bordered copy of the image.
-inline uint32_t areaElements(uint32_t W, uint32_t H, uint32_t mw, uint32_t mh)
+// larger than the mask in both directions, else a whole bordered copy of the image.  U is
+// uint32_t for the query (products wrap, the two candidates compared as signed values) and
+// __int128 for the exact area the operations check.
+template <class U>
+inline U areaElements(U W, U H, U mw, U mh)
 {
-    const uint32_t ax = (mw - 1) >> 1, ay = (mh - 1) >> 1;
+    using S = std::conditional_t<std::is_same_v<U, uint32_t>, int32_t, U>;
+    const U ax = (mw - 1) >> 1, ay = (mh - 1) >> 1;
     if (!(mw < W && mh < H)) return (W + mw - 1) * (H + mh - 1);
-    uint32_t S = (mh - ay - 1 < 1) ? 0 : (W + mw - 1) * (2 * mh - ay - 2);
+    U area = (mh - ay - 1 < 1) ? 0 : (W + mw - 1) * (2 * mh - ay - 2);
     if (mw - ax - 1 > 0) {
-        const uint32_t cols = (H + mh - 1) * (2 * mw - ax - 2);
-        if (int32_t(cols) > int32_t(S)) S = cols; // compared as signed values
+        const U cols = (H + mh - 1) * (2 * mw - ax - 2);
+        if (S(cols) > S(area)) area = cols;
     }
-    return S;
+    return area;
+}
+
+// The operations' refusal of a call whose work area, the query's formula in exact
+// arithmetic, exceeds 2^31 - 1 bytes: the query keeps its stated 32-bit result, which wraps
+// there, so a buffer sized from it would be overrun (-6, before anything is read or written).
+template <class T, int C>
+inline KroStatus checkWorkArea(KroiSize roi, KroiSize mask)
+{
+    using I = __int128;
+    const auto a32 = [](I v) { return (v + 31) / 32 * 32; };
+    const I W = roi.width, H = roi.height, mw = mask.width, mh = mask.height, n = C, e = sizeof(T);
+    const I total = a32(n * areaElements<I>(W, H, mw, mh) * e) + a32(mw * n * e) + mh * a32(W * n * e) + 32 +
+                    (std::is_same_v<T, Kro32f> ? 64 : 0);
+    return total > 0x7FFFFFFF ? kroStsBadSizeErr : kroStsOk;
 }
 
 // The buffer size, in unsigned 32-bit arithmetic as callers allocate from it (no overflow
@@ -74,7 +92,7 @@ inline KroStatus bufferSize(KroiSize roi, KroiSize mask, KroDataType dataType, i
 
     const uint32_t W = uint32_t(roi.width), H = uint32_t(roi.height);
     const uint32_t mw = uint32_t(mask.width), mh = uint32_t(mask.height), n = uint32_t(numChannels);
-    uint32_t S = areaElements(W, H, mw, mh);
+    uint32_t S = areaElements<uint32_t>(W, H, mw, mh);
     S *= e;
     uint32_t total = align32(n * S) + align32(mw * n * e) + mh * align32(W * n * e) + 32;
     if (dataType == kro32f) total += 64;
@@ -308,6 +326,7 @@ KroStatus filterBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, KroiSiz
     f.memBottom |= f.bottom == 0;
     const bool constant = !f.allInMem() && f.mode == border::Mode::Constant;
     if (constant && !pBorderValue) return kroStsNullPointerErr;
+    KROI_CHECK((checkWorkArea<T, C>(roi, mask)));
 
     const long n = long(roi.width) * C;
     if (mask.width == 1 && mask.height == 1) { // a plain copy of the ROI
@@ -325,7 +344,7 @@ KroStatus filterBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, KroiSiz
     const int W = roi.width, H = roi.height, mw = mask.width, mh = mask.height;
     const uint32_t e = sizeof(T), nC = C;
     char* base = reinterpret_cast<char*>((reinterpret_cast<uintptr_t>(pBuffer) + 31) & ~uintptr_t(31));
-    const uint32_t sBytes = align32(nC * areaElements(uint32_t(W), uint32_t(H), uint32_t(mw), uint32_t(mh)) * e);
+    const uint32_t sBytes = align32(nC * areaElements<uint32_t>(uint32_t(W), uint32_t(H), uint32_t(mw), uint32_t(mh)) * e);
     char* ring = base + sBytes + align32(uint32_t(mw) * nC * e);
     const std::size_t slotBytes = align32(uint32_t(W) * nC * e);
 

@@ -25,6 +25,7 @@ KroStatus sumWindow(const T* src, int srcStep, Out* dst, int dstStep, KroiSize r
     KROI_CHECK(border::checkFilterMode(code));
     T pad[4] = {};
     KROI_CHECK((borderValue<T, WC>(code, value, pad)));
+    KROI_CHECK((checkWorkArea<T, C>(roi, mask)));
     bool inPlace = false;
     if constexpr (std::is_same_v<T, Out>) inPlace = src == dst;
     run<T, Out, C, WC>(src, inPlace ? dstStep : srcStep, dst, dstStep, roi, mask, code, pad, buffer, inPlace,

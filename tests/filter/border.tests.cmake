@@ -10,3 +10,6 @@ if(TARGET kroi)
     COMMAND ${CMAKE_COMMAND} -DKROI=$<TARGET_FILE:kroi> -DOUT=${CMAKE_CURRENT_BINARY_DIR}/kroi-border
             -P ${CMAKE_CURRENT_SOURCE_DIR}/filter/border_kroi.cmake)
 endif()
+
+# Work areas past 32 bits: the operations refuse what the queries cannot describe.
+kroi_add_test(work_area_test filter/work_area_test.cpp)
