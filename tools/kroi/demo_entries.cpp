@@ -164,6 +164,11 @@ constexpr DemoEntry kEntries[] = {
     {"histogram-8u-c3", "kroiHistogram_8u_C3R(src, srcStep, {512, 384}, (Kro32u*[]){r, g, b}, spec, buffer)", histogram8u},
     {"moments-8u-c1", "kroiMoments64f_8u_C1R(luma, lumaStep, {512, 384}, &state)", moments8u},
     // end of section MOMHIST
+    // section UNARY
+    {"sqrt-8u-c3", "kroiSqrt_8u_C3RSfs(src, srcStep, dst, dstStep, {512, 384}, -4)", sqrt8u},
+    {"zoneplate-8u", "kroiImageZonePlate_8u_C1R(dst, dstStep, {512, 384})", zonePlate8u},
+    {"noise-gauss-8u-c3", "kroiAddRandGauss_8u_C3IR(img, step, {512, 384}, 0, 24, &seed)", gaussNoise8u},
+    // end of section UNARY
 };
 
 } // namespace
