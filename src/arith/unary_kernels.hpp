@@ -270,7 +270,7 @@ struct LnFloat {
 template <class T, bool kMax>
 struct Every {
     using Vec = typename Simd<T>::Vec;
-    static constexpr bool kVector = true, kDivides = false, kMergeRows = true;
+    static constexpr bool kVector = true, kDivides = false, kMergeRows = true, kReadsDestination = true;
     static T scalar(T x, T y) { return kMax ? (y > x ? y : x) : (y < x ? y : x); }
     [[gnu::always_inline]] static Vec vec(Vec x, Vec y)
     {
