@@ -2668,6 +2668,339 @@ KroStatus kroiHistogram_32f_C4R(const Kro32f* pSrc, int srcStep, KroiSize roiSiz
 
 /* end of section HISTOGRAM */
 
+/* section UNARY: Abs, Sqr, Sqrt, Exp, Ln, MinEvery, MaxEvery */
+
+/* ---- Abs: |x| element by element ----------------------------------------------------------------
+ *   16s: |-32768| saturates to 32767.  32f: the sign bit cleared (|-0| = +0, a NaN stays a NaN).
+ *   Layouts C1, C3, C4, AC4 (the fourth element of AC4 neither read nor written); R writes
+ *   pDst, IR replaces pSrcDst.  Checks, in this order: a null image pointer -8, a width or
+ *   height below 1 -6.  No step is checked (a step of 0 repeats the first row).  These
+ *   checks and layouts are those of every function of this section.
+ */
+KroStatus kroiAbs_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAbs_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAbs_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAbs_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAbs_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAbs_16s_C4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAbs_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAbs_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAbs_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAbs_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAbs_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAbs_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAbs_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAbs_32f_C4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAbs_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAbs_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+/* ---- Sqr: x^2 --------------------------------------------------------------------------------------
+ *   8u, 16u, 16s (Sfs): the exact square times 2^-scaleFactor, rounded to nearest with ties
+ *   to even, saturated; every int scaleFactor is valid.  It is the product of the image with
+ *   itself and rounds exactly as kroiMul.  32f: the IEEE product x * x.
+ */
+KroStatus kroiSqr_8u_C1RSfs(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_8u_C1IRSfs(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_8u_C3RSfs(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_8u_C3IRSfs(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_8u_C4RSfs(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_8u_C4IRSfs(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_8u_AC4RSfs(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_8u_AC4IRSfs(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_16u_C1RSfs(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_16u_C1IRSfs(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_16u_C3RSfs(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_16u_C3IRSfs(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_16u_C4RSfs(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_16u_C4IRSfs(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_16u_AC4RSfs(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_16u_AC4IRSfs(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_16s_C1RSfs(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_16s_C1IRSfs(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_16s_C3RSfs(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_16s_C3IRSfs(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_16s_C4RSfs(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_16s_C4IRSfs(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_16s_AC4RSfs(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_16s_AC4IRSfs(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqr_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSqr_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiSqr_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSqr_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiSqr_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSqr_32f_C4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiSqr_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSqr_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+/* ---- Sqrt: square root -----------------------------------------------------------------------------
+ *   8u, 16u, 16s (Sfs): the exact sqrt(x) times 2^-scaleFactor, rounded to nearest with ties to
+ *   even, saturated (sqrt(9) x 2^-1 = 1.5 gives 2).  16s: a negative x gives 0.
+ *   32f: the IEEE square root, correctly rounded; sqrt(-0) = -0, sqrt(+inf) = +inf, a
+ *   negative x (-inf included) gives NaN.
+ *   A negative x anywhere gives kroStsNegativeRootWarn (3) after the whole output is written.
+ */
+KroStatus kroiSqrt_8u_C1RSfs(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_8u_C1IRSfs(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_8u_C3RSfs(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_8u_C3IRSfs(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_8u_C4RSfs(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_8u_C4IRSfs(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_8u_AC4RSfs(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_8u_AC4IRSfs(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_16u_C1RSfs(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_16u_C1IRSfs(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_16u_C3RSfs(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_16u_C3IRSfs(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_16u_C4RSfs(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_16u_C4IRSfs(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_16u_AC4RSfs(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_16u_AC4IRSfs(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_16s_C1RSfs(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_16s_C1IRSfs(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_16s_C3RSfs(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_16s_C3IRSfs(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_16s_C4RSfs(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_16s_C4IRSfs(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_16s_AC4RSfs(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_16s_AC4IRSfs(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiSqrt_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSqrt_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiSqrt_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSqrt_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiSqrt_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSqrt_32f_C4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiSqrt_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiSqrt_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+/* ---- Exp: e^x --------------------------------------------------------------------------------------
+ *   8u, 16s (Sfs): the exact e^x times 2^-scaleFactor, rounded to nearest with ties to even,
+ *   saturated (e^x is never a tie except e^0 2^-s; the tests show every result to be exact).
+ *   32f: within 2 ulp of the correctly rounded e^x, and the same bits on every processor and
+ *   in every MXCSR setting (the processor's rounding and flush modes are set to their defaults
+ *   for the call and restored).  e^-inf = +0, e^+inf = +inf, NaN stays NaN; results below the
+ *   smallest subnormal give +0, above the largest float +inf.
+ */
+KroStatus kroiExp_8u_C1RSfs(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiExp_8u_C1IRSfs(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiExp_8u_C3RSfs(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiExp_8u_C3IRSfs(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiExp_8u_C4RSfs(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiExp_8u_C4IRSfs(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiExp_8u_AC4RSfs(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiExp_8u_AC4IRSfs(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiExp_16s_C1RSfs(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiExp_16s_C1IRSfs(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiExp_16s_C3RSfs(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiExp_16s_C3IRSfs(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiExp_16s_C4RSfs(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiExp_16s_C4IRSfs(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiExp_16s_AC4RSfs(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiExp_16s_AC4IRSfs(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiExp_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiExp_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiExp_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiExp_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiExp_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiExp_32f_C4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiExp_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiExp_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+/* ---- Ln: natural logarithm ----------------------------------------------------------------------------
+ *   8u, 16s (Sfs): the exact ln x times 2^-scaleFactor, rounded to nearest with ties to even,
+ *   saturated; x <= 0 gives the type's minimum (minus infinity saturated: 0 for 8u, -32768
+ *   for 16s).  32f: within 1 ulp of the correctly rounded ln x, the same bits on every
+ *   processor and MXCSR setting; ln(+-0) = -inf, ln of a negative x (-inf included) NaN,
+ *   ln(+inf) = +inf, NaN stays NaN.
+ *   Any x <= 0 (-0 included, NaN not) gives kroStsNonPositiveLogWarn (7) after the whole output
+ *   is written.
+ */
+KroStatus kroiLn_8u_C1RSfs(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiLn_8u_C1IRSfs(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiLn_8u_C3RSfs(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiLn_8u_C3IRSfs(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiLn_8u_C4RSfs(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiLn_8u_C4IRSfs(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiLn_8u_AC4RSfs(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiLn_8u_AC4IRSfs(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiLn_16s_C1RSfs(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiLn_16s_C1IRSfs(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiLn_16s_C3RSfs(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiLn_16s_C3IRSfs(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiLn_16s_C4RSfs(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiLn_16s_C4IRSfs(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiLn_16s_AC4RSfs(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiLn_16s_AC4IRSfs(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, int scaleFactor);
+KroStatus kroiLn_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLn_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLn_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLn_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLn_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLn_32f_C4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiLn_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiLn_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+/* ---- MinEvery, MaxEvery: pSrcDst = min(pSrcDst, pSrc) or max(pSrcDst, pSrc) ---------------------------
+ *   8u, 16u, 16s, 32f, in place only.  The source replaces the destination only where it is
+ *   strictly less (MinEvery) or greater (MaxEvery): so a NaN in the source never replaces, a
+ *   NaN in the destination stays, and of -0 and +0 the destination's is kept.
+ */
+KroStatus kroiMinEvery_8u_C1IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMinEvery_8u_C3IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMinEvery_8u_C4IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMinEvery_8u_AC4IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMinEvery_16u_C1IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMinEvery_16u_C3IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMinEvery_16u_C4IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMinEvery_16u_AC4IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMinEvery_16s_C1IR(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMinEvery_16s_C3IR(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMinEvery_16s_C4IR(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMinEvery_16s_AC4IR(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMinEvery_32f_C1IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMinEvery_32f_C3IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMinEvery_32f_C4IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMinEvery_32f_AC4IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+KroStatus kroiMaxEvery_8u_C1IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMaxEvery_8u_C3IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMaxEvery_8u_C4IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMaxEvery_8u_AC4IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMaxEvery_16u_C1IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMaxEvery_16u_C3IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMaxEvery_16u_C4IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMaxEvery_16u_AC4IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMaxEvery_16s_C1IR(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMaxEvery_16s_C3IR(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMaxEvery_16s_C4IR(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMaxEvery_16s_AC4IR(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMaxEvery_32f_C1IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMaxEvery_32f_C3IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMaxEvery_32f_C4IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiMaxEvery_32f_AC4IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize);
+
+/* end of section UNARY */
+
+/* section GENERATE: ramps, test patterns, additive noise */
+
+/* ---- kroiImageRamp: a linear ramp ----------------------------------------------------------------
+ *   Every written channel of pixel (x, y), counted from the ROI's top-left pixel, gets
+ *   offset + slope * t with t = x (kroRampAxisX), y (kroRampAxisY) or x * y (kroRampAxisXY),
+ *   evaluated in double (t and the product exact, each operation rounded to nearest double);
+ *   integer types then round to nearest with ties to even and saturate (NaN gives 0), 32f
+ *   rounds to the nearest float.  AC4 leaves the fourth element alone.
+ *   Checks, in this order: null pDst -8, width or height below 1 -6, an axis not among the
+ *   three -5.  No step is checked (this holds for the whole section).
+ */
+typedef int32_t KroiRampAxis;
+enum { kroRampAxisX = 0, kroRampAxisY = 1, kroRampAxisXY = 2 };
+KroStatus kroiImageRamp_8u_C1R(Kro8u* pDst, int dstStep, KroiSize roiSize, float offset, float slope, KroiRampAxis axis);
+KroStatus kroiImageRamp_8u_C3R(Kro8u* pDst, int dstStep, KroiSize roiSize, float offset, float slope, KroiRampAxis axis);
+KroStatus kroiImageRamp_8u_C4R(Kro8u* pDst, int dstStep, KroiSize roiSize, float offset, float slope, KroiRampAxis axis);
+KroStatus kroiImageRamp_8u_AC4R(Kro8u* pDst, int dstStep, KroiSize roiSize, float offset, float slope, KroiRampAxis axis);
+KroStatus kroiImageRamp_8s_C1R(Kro8s* pDst, int dstStep, KroiSize roiSize, float offset, float slope, KroiRampAxis axis);
+KroStatus kroiImageRamp_8s_C3R(Kro8s* pDst, int dstStep, KroiSize roiSize, float offset, float slope, KroiRampAxis axis);
+KroStatus kroiImageRamp_8s_C4R(Kro8s* pDst, int dstStep, KroiSize roiSize, float offset, float slope, KroiRampAxis axis);
+KroStatus kroiImageRamp_8s_AC4R(Kro8s* pDst, int dstStep, KroiSize roiSize, float offset, float slope, KroiRampAxis axis);
+KroStatus kroiImageRamp_16u_C1R(Kro16u* pDst, int dstStep, KroiSize roiSize, float offset, float slope, KroiRampAxis axis);
+KroStatus kroiImageRamp_16u_C3R(Kro16u* pDst, int dstStep, KroiSize roiSize, float offset, float slope, KroiRampAxis axis);
+KroStatus kroiImageRamp_16u_C4R(Kro16u* pDst, int dstStep, KroiSize roiSize, float offset, float slope, KroiRampAxis axis);
+KroStatus kroiImageRamp_16u_AC4R(Kro16u* pDst, int dstStep, KroiSize roiSize, float offset, float slope, KroiRampAxis axis);
+KroStatus kroiImageRamp_16s_C1R(Kro16s* pDst, int dstStep, KroiSize roiSize, float offset, float slope, KroiRampAxis axis);
+KroStatus kroiImageRamp_16s_C3R(Kro16s* pDst, int dstStep, KroiSize roiSize, float offset, float slope, KroiRampAxis axis);
+KroStatus kroiImageRamp_16s_C4R(Kro16s* pDst, int dstStep, KroiSize roiSize, float offset, float slope, KroiRampAxis axis);
+KroStatus kroiImageRamp_16s_AC4R(Kro16s* pDst, int dstStep, KroiSize roiSize, float offset, float slope, KroiRampAxis axis);
+KroStatus kroiImageRamp_32f_C1R(Kro32f* pDst, int dstStep, KroiSize roiSize, float offset, float slope, KroiRampAxis axis);
+KroStatus kroiImageRamp_32f_C3R(Kro32f* pDst, int dstStep, KroiSize roiSize, float offset, float slope, KroiRampAxis axis);
+KroStatus kroiImageRamp_32f_C4R(Kro32f* pDst, int dstStep, KroiSize roiSize, float offset, float slope, KroiRampAxis axis);
+KroStatus kroiImageRamp_32f_AC4R(Kro32f* pDst, int dstStep, KroiSize roiSize, float offset, float slope, KroiRampAxis axis);
+
+/* ---- kroiImageZonePlate: a radial chirp -----------------------------------------------------------
+ *   With the centre (cx, cy) = ((W - 1) / 2, (H - 1) / 2), r2 = (x - cx)^2 + (y - cy)^2 and R the
+ *   distance from the centre to a corner, the pattern is cos(pi t) with t = r2 / (2 R) (t = 0
+ *   for a 1 x 1 image): its local frequency rises linearly from 0 at the centre to the Nyquist
+ *   limit, half a cycle per pixel, at the corners.  Computed in double (t rounded once) with the
+ *   library's own cosine, within 2^-50 of cos(pi t), so the image is the same on every machine; 8u gets
+ *   127.5 + 127.5 cos, 16s 32767 cos, both rounded to nearest with ties to even, 32f cos
+ *   rounded to float.  Checks: null pDst -8, size -6.
+ */
+KroStatus kroiImageZonePlate_8u_C1R(Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiImageZonePlate_16s_C1R(Kro16s* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiImageZonePlate_32f_C1R(Kro32f* pDst, int dstStep, KroiSize roiSize);
+
+/* ---- kroiImageCheckerboard: squares of cellSize x cellSize pixels --------------------------------
+ *   Pixel (x, y) gets value1 where x / cellSize + y / cellSize is even (the top-left cell
+ *   included) and value2 elsewhere.  Checks: null pDst -8, size -6, cellSize below 1 -6.
+ */
+KroStatus kroiImageCheckerboard_8u_C1R(Kro8u* pDst, int dstStep, KroiSize roiSize, int cellSize, Kro8u value1, Kro8u value2);
+KroStatus kroiImageCheckerboard_16s_C1R(Kro16s* pDst, int dstStep, KroiSize roiSize, int cellSize, Kro16s value1, Kro16s value2);
+KroStatus kroiImageCheckerboard_32f_C1R(Kro32f* pDst, int dstStep, KroiSize roiSize, int cellSize, Kro32f value1, Kro32f value2);
+
+/* ---- kroiAddRandUniform, kroiAddRandGauss: additive noise, in place ------------------------------
+ *   Generator: *pSeed is a 32-bit state that walks a Weyl sequence, state += 0x9E3779B9 per
+ *   sample, each new state mixed by the 32-bit finaliser of MurmurHash3
+ *   (z ^= z >> 16; z *= 0x85EBCA6B; z ^= z >> 13; z *= 0xC2B2AE35; z ^= z >> 16).
+ *   Every seed is valid and gives a sequence of period 2^32; the call leaves *pSeed advanced by
+ *   the samples it used, so a second call continues the sequence, and a seed gives the same
+ *   image on every machine.  The written elements are numbered e = 0, 1, ... in row-major
+ *   order (three per AC4 pixel).
+ *   Uniform: element e takes sample e + 1, u = (z >> 8) / 16777215 (so 0 and 1 both occur), and
+ *   noise low + (high - low) * u; N elements use N samples.
+ *   Gaussian (Box-Muller): the pair of samples z1 = 2 (e / 2) + 1, z2 = 2 (e / 2) + 2 gives
+ *   u1 = ((z1 >> 8) + 1) 2^-24, the angle (z2 >> 30 + (z2 & 0x3FFFFFFF) 2^-30) pi / 2, and
+ *   rho = sqrt(-2 ln u1) (the library's own logarithm); even e takes rho cos, odd e rho sin, and
+ *   noise mean + stdDev * that.  N elements use 2 ceil(N / 2) samples.  |rho| < 5.8, so noise
+ *   stays within mean +- 5.8 stdDev.
+ *   Every step in single precision: the pixel plus its noise, for integer types clamped to the
+ *   type's range and rounded to nearest with ties to even (a NaN sum gives the minimum); 32f
+ *   the float sum.  Results do not depend on the caller's MXCSR.
+ *   Checks, in this order: null pSrcDst or pSeed -8, size -6, then uniform: low not below high
+ *   (or NaN) -7 kroStsBadRangeErr; Gaussian: stdDev below 0 (or NaN) -125
+ *   kroStsNegativeNoiseErr.  *pSeed is untouched on error.
+ */
+KroStatus kroiAddRandUniform_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, float low, float high, unsigned int* pSeed);
+KroStatus kroiAddRandUniform_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, float low, float high, unsigned int* pSeed);
+KroStatus kroiAddRandUniform_8u_C4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, float low, float high, unsigned int* pSeed);
+KroStatus kroiAddRandUniform_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, float low, float high, unsigned int* pSeed);
+KroStatus kroiAddRandUniform_8s_C1IR(Kro8s* pSrcDst, int srcDstStep, KroiSize roiSize, float low, float high, unsigned int* pSeed);
+KroStatus kroiAddRandUniform_8s_C3IR(Kro8s* pSrcDst, int srcDstStep, KroiSize roiSize, float low, float high, unsigned int* pSeed);
+KroStatus kroiAddRandUniform_8s_C4IR(Kro8s* pSrcDst, int srcDstStep, KroiSize roiSize, float low, float high, unsigned int* pSeed);
+KroStatus kroiAddRandUniform_8s_AC4IR(Kro8s* pSrcDst, int srcDstStep, KroiSize roiSize, float low, float high, unsigned int* pSeed);
+KroStatus kroiAddRandUniform_16u_C1IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, float low, float high, unsigned int* pSeed);
+KroStatus kroiAddRandUniform_16u_C3IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, float low, float high, unsigned int* pSeed);
+KroStatus kroiAddRandUniform_16u_C4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, float low, float high, unsigned int* pSeed);
+KroStatus kroiAddRandUniform_16u_AC4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, float low, float high, unsigned int* pSeed);
+KroStatus kroiAddRandUniform_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, float low, float high, unsigned int* pSeed);
+KroStatus kroiAddRandUniform_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, float low, float high, unsigned int* pSeed);
+KroStatus kroiAddRandUniform_16s_C4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, float low, float high, unsigned int* pSeed);
+KroStatus kroiAddRandUniform_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, float low, float high, unsigned int* pSeed);
+KroStatus kroiAddRandUniform_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, float low, float high, unsigned int* pSeed);
+KroStatus kroiAddRandUniform_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, float low, float high, unsigned int* pSeed);
+KroStatus kroiAddRandUniform_32f_C4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, float low, float high, unsigned int* pSeed);
+KroStatus kroiAddRandUniform_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, float low, float high, unsigned int* pSeed);
+
+KroStatus kroiAddRandGauss_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, float mean, float stdDev, unsigned int* pSeed);
+KroStatus kroiAddRandGauss_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, float mean, float stdDev, unsigned int* pSeed);
+KroStatus kroiAddRandGauss_8u_C4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, float mean, float stdDev, unsigned int* pSeed);
+KroStatus kroiAddRandGauss_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, float mean, float stdDev, unsigned int* pSeed);
+KroStatus kroiAddRandGauss_8s_C1IR(Kro8s* pSrcDst, int srcDstStep, KroiSize roiSize, float mean, float stdDev, unsigned int* pSeed);
+KroStatus kroiAddRandGauss_8s_C3IR(Kro8s* pSrcDst, int srcDstStep, KroiSize roiSize, float mean, float stdDev, unsigned int* pSeed);
+KroStatus kroiAddRandGauss_8s_C4IR(Kro8s* pSrcDst, int srcDstStep, KroiSize roiSize, float mean, float stdDev, unsigned int* pSeed);
+KroStatus kroiAddRandGauss_8s_AC4IR(Kro8s* pSrcDst, int srcDstStep, KroiSize roiSize, float mean, float stdDev, unsigned int* pSeed);
+KroStatus kroiAddRandGauss_16u_C1IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, float mean, float stdDev, unsigned int* pSeed);
+KroStatus kroiAddRandGauss_16u_C3IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, float mean, float stdDev, unsigned int* pSeed);
+KroStatus kroiAddRandGauss_16u_C4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, float mean, float stdDev, unsigned int* pSeed);
+KroStatus kroiAddRandGauss_16u_AC4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, float mean, float stdDev, unsigned int* pSeed);
+KroStatus kroiAddRandGauss_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, float mean, float stdDev, unsigned int* pSeed);
+KroStatus kroiAddRandGauss_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, float mean, float stdDev, unsigned int* pSeed);
+KroStatus kroiAddRandGauss_16s_C4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, float mean, float stdDev, unsigned int* pSeed);
+KroStatus kroiAddRandGauss_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, float mean, float stdDev, unsigned int* pSeed);
+KroStatus kroiAddRandGauss_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, float mean, float stdDev, unsigned int* pSeed);
+KroStatus kroiAddRandGauss_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, float mean, float stdDev, unsigned int* pSeed);
+KroStatus kroiAddRandGauss_32f_C4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, float mean, float stdDev, unsigned int* pSeed);
+KroStatus kroiAddRandGauss_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, float mean, float stdDev, unsigned int* pSeed);
+
+/* end of section GENERATE */
+
 #ifdef __cplusplus
 }
 #endif

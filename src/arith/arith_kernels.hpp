@@ -751,6 +751,16 @@ inline bool streams(std::ptrdiff_t bytes, const void* d, std::ptrdiff_t dStep)
     return cache > 0 && bytes >= cache / 2 && stream::rowsAligned(d, dStep);
 }
 
+// Whether an operation may write with non-temporal stores: not one that always reads the
+// destination first (MinEvery, MaxEvery say kReadsDestination), whose lines are already in
+// the cache when they are written and would be evicted to memory for nothing.
+template <class Op>
+constexpr bool mayStream()
+{
+    if constexpr (requires { Op::kReadsDestination; }) return !Op::kReadsDestination;
+    else return true;
+}
+
 // Every row of the job; rows that lie end to end in every image are done as one.  Returns
 // whether a zero divisor was met.
 template <Layout L, class Op, class T, class X, class Y>
@@ -770,7 +780,7 @@ bool runRows(const Op& op, const Job<T, X, Y>& j)
     };
     constexpr int kImages = 1 + std::remove_cvref_t<decltype(j.x.row(0))>::kImages +
                             std::remove_cvref_t<decltype(j.y.row(0))>::kImages;
-    if (Op::kVector && streams(rowBytes * j.height * kImages, j.d, step)) {
+    if (Op::kVector && mayStream<Op>() && streams(rowBytes * j.height * kImages, j.d, step)) {
         const bool zero = all(std::true_type{});
         _mm_sfence(); // the caller's later stores land after the image
         return zero;

@@ -37,4 +37,22 @@ private:
     unsigned saved_;
 };
 
+// The processor's default environment for one call: round to nearest, every exception
+// masked, subnormals kept (neither flush-to-zero nor denormals-are-zero).  Kernels whose
+// floating-point results are promised bit for bit on every machine run inside it, so that a
+// caller's FTZ, DAZ, rounding or unmasked exception changes nothing; the caller's value,
+// flags included, comes back when the scope ends.
+class DefaultFloatScope {
+public:
+    static constexpr unsigned kDefault = 0x1F80;
+    DefaultFloatScope() : saved_(_mm_getcsr()) { _mm_setcsr(kDefault); }
+    ~DefaultFloatScope() { _mm_setcsr(saved_); }
+
+    DefaultFloatScope(const DefaultFloatScope&) = delete;
+    DefaultFloatScope& operator=(const DefaultFloatScope&) = delete;
+
+private:
+    unsigned saved_;
+};
+
 }  // namespace KROI_TIER

@@ -60,6 +60,13 @@ int runErode(const Args& args);  // minmax.cpp
 int runHist(const Args& args);    // momhist.cpp
 int runMoments(const Args& args); // momhist.cpp
 // end of section MOMHIST
+// section UNARY
+int runMath(const Args& args);      // unary.cpp
+int runRamp(const Args& args);      // unary.cpp
+int runZonePlate(const Args& args); // unary.cpp
+int runChecker(const Args& args);   // unary.cpp
+int runNoise(const Args& args);     // unary.cpp
+// end of section UNARY
 
 // One line of library identification ("kroIP SSE3 (t3) 2026.0.0 (r0x00000001), Nov 2 2026").
 std::string libraryLine();

@@ -147,6 +147,11 @@ Image opening8u(DemoContext& ctx);
 Image histogram8u(DemoContext& ctx); // demo_momhist.cpp
 Image moments8u(DemoContext& ctx);
 // end of section MOMHIST
+// section UNARY
+Image sqrt8u(DemoContext& ctx);      // demo_unary.cpp
+Image zonePlate8u(DemoContext& ctx);
+Image gaussNoise8u(DemoContext& ctx);
+// end of section UNARY
 
 // The built-in inputs (sample.cpp): deterministic, the same on every run.
 Image makeScene(int width, int height);  // 8-bit RGB scene

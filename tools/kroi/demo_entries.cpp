@@ -107,6 +107,11 @@ constexpr DemoEntry kEntries[] = {
     {"moments-8u-c1", "kroiMoments64f_8u_C1R(luma, lumaStep, {512, 384}, &state)", moments8u},
     // end of section MOMHIST
     {"alloc-8u-c4", "p = kroiMalloc_8u_C4(512, 384, &step); kroiFree(p)", rgba8u},
+    // section UNARY
+    {"sqrt-8u-c3", "kroiSqrt_8u_C3RSfs(src, srcStep, dst, dstStep, {512, 384}, -4)", sqrt8u},
+    {"zoneplate-8u", "kroiImageZonePlate_8u_C1R(dst, dstStep, {512, 384})", zonePlate8u},
+    {"noise-gauss-8u-c3", "kroiAddRandGauss_8u_C3IR(img, step, {512, 384}, 0, 24, &seed)", gaussNoise8u},
+    // end of section UNARY
 };
 
 } // namespace

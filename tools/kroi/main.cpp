@@ -114,6 +114,13 @@ constexpr Command kCommands[] = {
     {"hist", "kroi hist IN.png OUT.png [--bins N]\n    per-channel histogram over N uniform bins (default 256) drawn as a bar chart", runHist},
     {"moments", "kroi moments IN.png\n    centroid, orientation and Hu invariants of each channel", runMoments},
     // end of section MOMHIST
+    // section UNARY
+    {"math", "kroi math sqrt|sqr|exp|ln|abs IN.png OUT.png [--scale S]\n    element-wise mathematics with the scale factor S (result x 2^-S); abs draws the distance from mid-gray", runMath},
+    {"ramp", "kroi ramp OUT.png WxH\n    an 8-bit horizontal ramp from 0 to 255", runRamp},
+    {"zoneplate", "kroi zoneplate OUT.png WxH\n    an 8-bit zone plate: a radial chirp reaching the Nyquist limit at the corners", runZonePlate},
+    {"checker", "kroi checker OUT.png WxH [--cell N]\n    an 8-bit checkerboard of N-pixel squares (default 32)", runChecker},
+    {"noise", "kroi noise IN.png OUT.png --gauss SIGMA|--uniform LO,HI [--seed S]\n    additive Gaussian or uniform noise, the same image for the same seed", runNoise},
+    // end of section UNARY
     {"png-roundtrip", nullptr, runPngRoundtrip},
 };
 
