@@ -315,10 +315,10 @@ inline void exact32(__m128i x, __m128i y, __m128i* r)
 
 // ---- scaled integer operations -------------------------------------------------------------------
 
-enum class Mode { Plain, Half, Down, Up, Bound };
+enum class Mode { Plain, Half, Down, Down16, Up, Bound };
 
 // x op y, exact, times 2^-s, ties to even, saturated to T.  `s` must lie in the mode's range:
-// Plain 0, Half 1, Down 2..32 (below the fill range), Up below 0, Bound where every non-zero
+// Plain 0, Half 1, Down 2..32 (below the fill range), Down16 1..9 (8u only), Up below 0, Bound where every non-zero
 // result saturates.
 template <class T, class Kind, Mode M>
 struct Scaled {
@@ -366,6 +366,24 @@ struct Scaled {
             const __m128i c = _mm_avg_epu8(x, y);
             const __m128i odd = _mm_and_si128(_mm_and_si128(_mm_xor_si128(x, y), c), _mm_set1_epi8(1));
             return _mm_sub_epi8(c, odd);
+        } else if constexpr (M == Mode::Down16) {
+            // 8u: every exact result fits a 16-bit lane (products up to 65025, sums up to 510,
+            // differences within +-255), and so does r + 2^(s-1) - 1 + 1 for s <= 9, so the
+            // rounding (r + 2^(s-1) - 1 + ((r >> s) & 1)) >> s runs on eight lanes, not four.
+            static_assert(k8u);
+            const __m128i z = _mm_setzero_si128(), one16 = _mm_set1_epi16(1);
+            const __m128i bias16 = _mm_set1_epi16(short((1 << (s - 1)) - 1));
+            auto exact = [&](__m128i a, __m128i b) {
+                return kAdd ? _mm_add_epi16(a, b) : kSub ? _mm_sub_epi16(a, b) : _mm_mullo_epi16(a, b);
+            };
+            auto round = [&](__m128i r) { // differences may be negative: arithmetic shifts there
+                const __m128i q = kSub ? _mm_sra_epi16(r, count) : _mm_srl_epi16(r, count);
+                const __m128i t = _mm_add_epi16(_mm_add_epi16(r, bias16), _mm_and_si128(q, one16));
+                return kSub ? _mm_sra_epi16(t, count) : _mm_srl_epi16(t, count);
+            };
+            const __m128i lo = round(exact(_mm_unpacklo_epi8(x, z), _mm_unpacklo_epi8(y, z)));
+            const __m128i hi = round(exact(_mm_unpackhi_epi8(x, z), _mm_unpackhi_epi8(y, z)));
+            return _mm_packus_epi16(lo, hi); // results below 2^15: the signed pack saturates to 0..255
         } else if constexpr (M == Mode::Half && kSub && k8u) {
             // A negative difference gives 0 at every scale; r = max(x - y, 0) <= 255, then
             // (r >> 1) plus one where r is odd and r >> 1 is odd.
@@ -852,6 +870,10 @@ KroStatus scaled(const Job<T, X, Y>& j, int s)
     constexpr RangeSet r = Ranges<Kind, T>::k;
     if (s >= r.zeroFrom) return fillZero<T, L>(j.d, int(j.dStep), KroiSize{j.width, j.height});
     if (s == 0) return runOp<L>(Scaled<T, Kind, Mode::Plain>{}, j);
+    if constexpr (std::is_same_v<T, Kro8u>) {
+        // Add and Sub have their own one-step kernels at s = 1; Mul goes to 16-bit lanes there too.
+        if (s >= (std::is_same_v<Kind, Mul> ? 1 : 2) && s <= 9) return runOp<L>(Scaled<T, Kind, Mode::Down16>{s}, j);
+    }
     if (s == 1 && r.half) return runOp<L>(Scaled<T, Kind, Mode::Half>{}, j);
     if (s > 0) return runOp<L>(Scaled<T, Kind, Mode::Down>{s}, j);
     if (s <= r.boundFrom) return runOp<L>(Scaled<T, Kind, Mode::Bound>{s}, j);
