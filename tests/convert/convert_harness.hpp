@@ -96,7 +96,8 @@ inline const std::vector<Geometry>& fullGeometries()
         {15, 3, 0, 0, kt::Guard::Before, 1}, {16, 2, 0, 0, kt::Guard::After, 0},
         {17, 3, 5, 3, kt::Guard::After, 0},  {33, 2, 13, 0, kt::Guard::Before, 3},
         {64, 1, 0, 0, kt::Guard::Before, 2}, {70, 3, 0, 6, kt::Guard::After, 0},
-        {47, 4, 16, 16, kt::Guard::Before, 0}};
+        {47, 4, 16, 16, kt::Guard::Before, 0},
+        {130, 40, 7, 5, kt::Guard::Before, 3}}; // past the pixel counts where kernels change path
     return g;
 }
 inline const std::vector<Geometry>& quickGeometries()
@@ -170,7 +171,9 @@ void sweep(const std::string& what, int layout, Call call, Ref ref, kt::Rng& rng
     if constexpr (std::is_integral_v<S> && sizeof(S) <= 2) {
         const long count = 1L << (8 * sizeof(S));
         const int width = 256, wr = writtenOf(layout);
-        const int height = int((count + long(width) * wr - 1) / (long(width) * wr));
+        // 8-bit values repeat down 17 rows, so that the image is also large enough for the
+        // kernels that change path with the pixel count.
+        const int height = sizeof(S) == 1 ? 17 : int((count + long(width) * wr - 1) / (long(width) * wr));
         const Geometry g{width, height, 0, 0, kt::Guard::After, 0};
         auto every = [&](kt::Guarded<S>& s) {
             long k = 0;
