@@ -2659,6 +2659,105 @@ KroStatus kroiHistogram_32f_C4R(const Kro32f* pSrc, int srcStep, KroiSize roiSiz
 
 /* end of section HISTOGRAM */
 
+/* section LUT */
+/* =======================================================================================
+ * Lookup tables
+ *
+ * Per channel, a table of n >= 2 levels L[0..n-1] and values V[0..n-1] (32-bit integers for
+ * the integer types, 32-bit floats for 32f) maps a pixel value v: interval k is
+ * [L[k], L[k+1]); an interval whose upper level is not above its lower one is skipped; a v
+ * that lies in no interval (below L[0], at or above L[n-1] for ascending levels, NaN) is
+ * left unchanged.  Where intervals overlap (levels not ascending) the later interval wins.
+ *   nearest (1): V[k].
+ *   linear (2):  V[k] + (V[k+1] - V[k]) * (v - L[k]) / (L[k+1] - L[k]); for the integer
+ *                types computed exactly and rounded to nearest, ties to even.
+ *   cubic (6):   the Lagrange cubic through the points k-1, k, k+1, k+2, the four moved
+ *                inwards at the first and last interval (points 0..3, n-4..n-1); evaluated
+ *                in double and, for the integer types, rounded to nearest, ties to even.
+ *                With fewer than four levels, or where those four levels are not strictly
+ *                ascending, the linear rule is used.
+ *   32f: linear and cubic are computed in double and rounded once to single precision.
+ *   Integer results are saturated to the pixel type.
+ * The integer types are mapped through full maps painted once by the initialiser: the
+ * identity, then each non-empty interval clipped to the type's range, [max(L[k], min),
+ * min(L[k+1], max + 1)), in order.  32f finds each value's interval by binary search when
+ * the levels never descend; other level lists are searched interval by interval.
+ *
+ * Channel layout codes: kroC1 = 1, kroC3 = 3, kroC4 = 4, kroAC4 = 9 (three tables for C3 and
+ * AC4, four for C4; AC4 leaves the fourth channel unwritten).
+ *
+ * Specification (KroiLUTSpec, opaque, in the caller's block of kroiLUT_GetSize bytes):
+ * begins with a 32-bit kind identifier; the tables start at the first 64-byte boundary at
+ * or after 128 bytes into the block and are found through offsets from its start, so an
+ * initialised specification may be copied to another block.  Kind identifiers:
+ *   8u  C1 nearest 0x1234567, linear 0x1234577, cubic 0x1234587; 8u C3 nearest 0x1234588;
+ *   8u  C4 nearest 0x123458A; 32f C1 nearest 0x1234573;
+ *   every other kind 0x4C4B0000 + (data type code << 8) + (layout code << 4) + interpolation
+ *   code (8u AC4 linear: 0x4C4B0192).
+ *
+ * kroiLUT_GetSize(interpolation, dataType, channels, roi, nLevels, pSpecSize): checks, in
+ * order: null nLevels or pSpecSize -8; width or height < 1 -6; a level count < 2 among the
+ * layout's channels -106 (C4 tests its fourth count first; an unknown layout tests none);
+ * layout not 1, 3, 4, 9 -47; dataType not 1, 5, 7, 13 -59; interpolation not 1, 2, 6 -23;
+ * a size beyond INT_MAX -6.  Sizes (n the C1 count, S3 the sum of the first three counts,
+ * S4 of all four, round64 up to a multiple of 64), the same for all three interpolations:
+ *   8u:        C1 544, C3 and AC4 768 + 288, C4 1024 + 288;
+ *   16u, 16s:  C1 8n + 131360, C3 round64(8 S3) + 0x60000 + 288, AC4 0x60000 + 288,
+ *              C4 0x80000 + 288;
+ *   32f:       C1 8n + 288, C3 and AC4 round64(8 S3) + 288, C4 round64(8 S4) + 288.
+ *
+ * kroiLUT_Init_<t>(interpolation, channels, roi, pValues, pLevels, nLevels, pSpec): checks,
+ * in order: null pValues, pLevels, nLevels or pSpec, or (for a known layout) a null value
+ * or level array of one of its channels -8; width or height < 1 -6; level counts -106 as
+ * in the query; layout -47; interpolation -23.  The region is only checked.
+ *
+ * kroiLUT_<t>_<c>R, _<c>IR: checks, in order: null source, destination (or source-
+ * destination) or specification -8; a step < 1 -16 (before the size); width or height < 1
+ * -6; a kind identifier not made for the function's type and layout -5 (a C3 specification
+ * does not serve AC4 and the reverse).
+ * ======================================================================================= */
+typedef struct KroiLUTSpec KroiLUTSpec;
+enum { kroC1 = 1, kroC3 = 3, kroC4 = 4, kroAC4 = 9 };
+KroStatus kroiLUT_GetSize(int interpolation, KroDataType dataType, int channels, KroiSize roiSize, const int nLevels[], int* pSpecSize);
+KroStatus kroiLUT_Init_8u(int interpolation, int channels, KroiSize roiSize, const Kro32s* pValues[], const Kro32s* pLevels[], const int nLevels[], KroiLUTSpec* pSpec);
+KroStatus kroiLUT_Init_16u(int interpolation, int channels, KroiSize roiSize, const Kro32s* pValues[], const Kro32s* pLevels[], const int nLevels[], KroiLUTSpec* pSpec);
+KroStatus kroiLUT_Init_16s(int interpolation, int channels, KroiSize roiSize, const Kro32s* pValues[], const Kro32s* pLevels[], const int nLevels[], KroiLUTSpec* pSpec);
+KroStatus kroiLUT_Init_32f(int interpolation, int channels, KroiSize roiSize, const Kro32f* pValues[], const Kro32f* pLevels[], const int nLevels[], KroiLUTSpec* pSpec);
+KroStatus kroiLUT_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_8u_C4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16u_C1IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16u_C3IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16u_C4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16u_AC4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16s_C4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_32f_C4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+
+/* end of section LUT */
+
 #ifdef __cplusplus
 }
 #endif
