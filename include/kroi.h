@@ -2755,6 +2755,31 @@ KroStatus kroiLUT_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dst
 KroStatus kroiLUT_32f_C4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
 KroStatus kroiLUT_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
 KroStatus kroiLUT_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+/*
+ * kroiLUTPalette_<t>_<c>R(pSrc, srcStep, pDst, dstStep, roi, pTable, nBitSize): each source
+ * value, masked to its low nBitSize bits, selects its entry of a palette of 2^nBitSize
+ * entries of the destination type; C3, C4 and AC4 take one palette per written channel
+ * (AC4 leaves the fourth channel unwritten).  nBitSize is 1..8 for 8u sources and 1..16 for
+ * 16u sources.  24u destinations are three bytes per pixel, copied in order from the
+ * entry's three bytes (a palette of 3 * 2^nBitSize bytes; read as a little-endian value,
+ * the first byte is the lowest).
+ *   Checks, in order: null source, destination, palette (or one of the channel palettes)
+ *   -8; a step < 1 -16; width or height < 1 -6; nBitSize outside its bounds
+ *   kroStsOutsideRangeErr (-11).
+ */
+KroStatus kroiLUTPalette_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pTable, int nBitSize);
+KroStatus kroiLUTPalette_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* const pTable[3], int nBitSize);
+KroStatus kroiLUTPalette_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* const pTable[4], int nBitSize);
+KroStatus kroiLUTPalette_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* const pTable[3], int nBitSize);
+KroStatus kroiLUTPalette_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u* pTable, int nBitSize);
+KroStatus kroiLUTPalette_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u* const pTable[3], int nBitSize);
+KroStatus kroiLUTPalette_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u* const pTable[4], int nBitSize);
+KroStatus kroiLUTPalette_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u* const pTable[3], int nBitSize);
+KroStatus kroiLUTPalette_8u24u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pTable, int nBitSize);
+KroStatus kroiLUTPalette_8u32u_C1R(const Kro8u* pSrc, int srcStep, Kro32u* pDst, int dstStep, KroiSize roiSize, const Kro32u* pTable, int nBitSize);
+KroStatus kroiLUTPalette_16u8u_C1R(const Kro16u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pTable, int nBitSize);
+KroStatus kroiLUTPalette_16u24u_C1R(const Kro16u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pTable, int nBitSize);
+KroStatus kroiLUTPalette_16u32u_C1R(const Kro16u* pSrc, int srcStep, Kro32u* pDst, int dstStep, KroiSize roiSize, const Kro32u* pTable, int nBitSize);
 
 /* end of section LUT */
 
