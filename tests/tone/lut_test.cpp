@@ -430,4 +430,19 @@ TEST(LutExample, NearestHalves)
     for (int i = 0; i < 256; ++i) ASSERT_EQ(img[i], i < 128 ? 10 : 200) << i;
 }
 
+// Large 8u images with one map for every channel take the word-wise path.
+TEST(LutExample, LargeImagesOneMap)
+{
+    auto rng = kt::rngForTest();
+    for (int li : {0, 1, 2}) {
+        const std::vector<Table<Kro32s>> tabs(kTables[li], randomTable<Kro8u>(rng, true));
+        auto spec = makeSpec<Kro8u>(kroInterLinear, li, tabs);
+        const int w = 203, h = 90;
+        kt::Guarded<Kro8u> src(lt::placed(w, h, kChannels[li], 1)), dst(w, h, kChannels[li]);
+        src.forEach([&](int, int, int, Kro8u& e) { e = Kro8u(rng()); });
+        ASSERT_EQ(Forms<Kro8u>::map[li](src.ptr(), src.step(), dst.ptr(), dst.step(), {w, h}, spec.get()), kroStsOk);
+        ASSERT_IMAGE_EQ(dst, [&](int x, int y, int c) { return refInt<Kro8u>(tabs[c], kroInterLinear, src.at(x, y, c))[0]; });
+    }
+}
+
 }  // namespace
