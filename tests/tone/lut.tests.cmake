@@ -12,3 +12,7 @@ set_source_files_properties(tone/alpha_test.cpp PROPERTIES COMPILE_OPTIONS -msse
 
 # Premultiplication and key colours.
 kroi_add_test(alpha_premul_test tone/alpha_premul_test.cpp)
+
+# kroi lut and kroi composite on the demo's images, then usage errors.
+add_test(NAME kroi_lutalpha COMMAND ${CMAKE_COMMAND} -DKROI=$<TARGET_FILE:kroi>
+         -DOUT=${CMAKE_CURRENT_BINARY_DIR}/kroi-lutalpha -P ${CMAKE_CURRENT_SOURCE_DIR}/tone/lutalpha_kroi.cmake)

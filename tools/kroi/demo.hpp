@@ -143,6 +143,11 @@ Image opening8u(DemoContext& ctx);
 Image histogram8u(DemoContext& ctx); // demo_momhist.cpp
 Image moments8u(DemoContext& ctx);
 // end of section MOMHIST
+// section LUTALPHA
+Image lutGamma8u(DemoContext& ctx);  // demo_lutalpha.cpp
+Image lutCubic8u(DemoContext& ctx);  // demo_lutalpha.cpp
+Image alphaOps8u(DemoContext& ctx);  // demo_lutalpha.cpp
+// end of section LUTALPHA
 
 // The built-in inputs (sample.cpp): deterministic, the same on every run.
 Image makeScene(int width, int height);  // 8-bit RGB scene

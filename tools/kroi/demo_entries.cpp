@@ -164,6 +164,11 @@ constexpr DemoEntry kEntries[] = {
     {"histogram-8u-c3", "kroiHistogram_8u_C3R(src, srcStep, {512, 384}, (Kro32u*[]){r, g, b}, spec, buffer)", histogram8u},
     {"moments-8u-c1", "kroiMoments64f_8u_C1R(luma, lumaStep, {512, 384}, &state)", moments8u},
     // end of section MOMHIST
+    // section LUTALPHA
+    {"lut-gamma-8u-c3", "kroiLUT_8u_C3R(src, srcStep, dst, dstStep, {512, 384}, spec)", lutGamma8u},
+    {"lut-cubic-8u-c3", "kroiLUT_8u_C3R(src, srcStep, dst, dstStep, {512, 384}, spec)", lutCubic8u},
+    {"alpha-ops-8u-ac4", "kroiAlphaComp_8u_AC4R(a, aStep, b, bStep, dst, dstStep, {512, 384}, op)", alphaOps8u},
+    // end of section LUTALPHA
 };
 
 } // namespace

@@ -114,6 +114,16 @@ constexpr Command kCommands[] = {
     {"hist", "kroi hist IN.png OUT.png [--bins N]\n    per-channel histogram over N uniform bins (default 256) drawn as a bar chart", runHist},
     {"moments", "kroi moments IN.png\n    centroid, orientation and Hu invariants of each channel", runMoments},
     // end of section MOMHIST
+    // section LUTALPHA
+    {"lut",
+     "kroi lut IN.png OUT.png --curve gamma:G|levels:L0=V0,L1=V1,... [--interp nearest|linear|cubic]\n"
+     "    every colour channel through one tone curve: max (v/max)^(1/G), or the points given (alpha kept)",
+     runLut},
+    {"composite",
+     "kroi composite A.png B.png OUT.png --op over|in|out|atop|xor|plus [--alpha A1,A2]\n"
+     "    A composed onto B with the alphas of the PNGs (RGBA) or two constant alphas",
+     runComposite},
+    // end of section LUTALPHA
     {"png-roundtrip", nullptr, runPngRoundtrip},
 };
 
