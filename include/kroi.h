@@ -3000,6 +3000,287 @@ KroStatus kroiAddRandGauss_32f_C4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize ro
 KroStatus kroiAddRandGauss_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, float mean, float stdDev, unsigned int* pSeed);
 
 /* end of section GENERATE */
+/* section LUT */
+/* =======================================================================================
+ * Lookup tables
+ *
+ * Per channel, a table of n >= 2 levels L[0..n-1] and values V[0..n-1] (32-bit integers for
+ * the integer types, 32-bit floats for 32f) maps a pixel value v: interval k is
+ * [L[k], L[k+1]); an interval whose upper level is not above its lower one is skipped; a v
+ * that lies in no interval (below L[0], at or above L[n-1] for ascending levels, NaN) is
+ * left unchanged.  Where intervals overlap (levels not ascending) the later interval wins.
+ *   nearest (1): V[k].
+ *   linear (2):  V[k] + (V[k+1] - V[k]) * (v - L[k]) / (L[k+1] - L[k]); for the integer
+ *                types computed exactly and rounded to nearest, ties to even.
+ *   cubic (6):   the Lagrange cubic through the points k-1, k, k+1, k+2, the four moved
+ *                inwards at the first and last interval (points 0..3, n-4..n-1); evaluated
+ *                in double and, for the integer types, rounded to nearest, ties to even.
+ *                With fewer than four levels, or where those four levels are not strictly
+ *                ascending, the linear rule is used.
+ *   32f: linear and cubic are computed in double and rounded once to single precision.
+ *   Integer results are saturated to the pixel type.
+ * The integer types are mapped through full maps painted once by the initialiser: the
+ * identity, then each non-empty interval clipped to the type's range, [max(L[k], min),
+ * min(L[k+1], max + 1)), in order.  32f finds each value's interval by binary search when
+ * the levels never descend; other level lists are searched interval by interval.
+ *
+ * Channel layout codes: kroC1 = 1, kroC3 = 3, kroC4 = 4, kroAC4 = 9 (three tables for C3 and
+ * AC4, four for C4; AC4 leaves the fourth channel unwritten).
+ *
+ * Specification (KroiLUTSpec, opaque, in the caller's block of kroiLUT_GetSize bytes):
+ * begins with a 32-bit kind identifier; the tables start at the first 64-byte boundary at
+ * or after 128 bytes into the block and are found through offsets from its start, so an
+ * initialised specification may be copied to another block.  Kind identifiers:
+ *   8u  C1 nearest 0x1234567, linear 0x1234577, cubic 0x1234587; 8u C3 nearest 0x1234588;
+ *   8u  C4 nearest 0x123458A; 32f C1 nearest 0x1234573;
+ *   every other kind 0x4C4B0000 + (data type code << 8) + (layout code << 4) + interpolation
+ *   code (8u AC4 linear: 0x4C4B0192).
+ *
+ * kroiLUT_GetSize(interpolation, dataType, channels, roi, nLevels, pSpecSize): checks, in
+ * order: null nLevels or pSpecSize -8; width or height < 1 -6; a level count < 2 among the
+ * layout's channels -106 (C4 tests its fourth count first; an unknown layout tests none);
+ * layout not 1, 3, 4, 9 -47; dataType not 1, 5, 7, 13 -59; interpolation not 1, 2, 6 -23;
+ * a size beyond INT_MAX -6.  Sizes (n the C1 count, S3 the sum of the first three counts,
+ * S4 of all four, round64 up to a multiple of 64), the same for all three interpolations:
+ *   8u:        C1 544, C3 and AC4 768 + 288, C4 1024 + 288;
+ *   16u, 16s:  C1 8n + 131360, C3 round64(8 S3) + 0x60000 + 288, AC4 0x60000 + 288,
+ *              C4 0x80000 + 288;
+ *   32f:       C1 8n + 288, C3 and AC4 round64(8 S3) + 288, C4 round64(8 S4) + 288.
+ *
+ * kroiLUT_Init_<t>(interpolation, channels, roi, pValues, pLevels, nLevels, pSpec): checks,
+ * in order: null pValues, pLevels, nLevels or pSpec, or (for a known layout) a null value
+ * or level array of one of its channels -8; width or height < 1 -6; level counts -106 as
+ * in the query; layout -47; interpolation -23.  The region is only checked.
+ *
+ * kroiLUT_<t>_<c>R, _<c>IR: checks, in order: null source, destination (or source-
+ * destination) or specification -8; a step < 1 -16 (before the size); width or height < 1
+ * -6; a kind identifier not made for the function's type and layout -5 (a C3 specification
+ * does not serve AC4 and the reverse).
+ * ======================================================================================= */
+typedef struct KroiLUTSpec KroiLUTSpec;
+enum { kroC1 = 1, kroC3 = 3, kroC4 = 4, kroAC4 = 9 };
+KroStatus kroiLUT_GetSize(int interpolation, KroDataType dataType, int channels, KroiSize roiSize, const int nLevels[], int* pSpecSize);
+KroStatus kroiLUT_Init_8u(int interpolation, int channels, KroiSize roiSize, const Kro32s* pValues[], const Kro32s* pLevels[], const int nLevels[], KroiLUTSpec* pSpec);
+KroStatus kroiLUT_Init_16u(int interpolation, int channels, KroiSize roiSize, const Kro32s* pValues[], const Kro32s* pLevels[], const int nLevels[], KroiLUTSpec* pSpec);
+KroStatus kroiLUT_Init_16s(int interpolation, int channels, KroiSize roiSize, const Kro32s* pValues[], const Kro32s* pLevels[], const int nLevels[], KroiLUTSpec* pSpec);
+KroStatus kroiLUT_Init_32f(int interpolation, int channels, KroiSize roiSize, const Kro32f* pValues[], const Kro32f* pLevels[], const int nLevels[], KroiLUTSpec* pSpec);
+KroStatus kroiLUT_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_8u_C4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16u_C1IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16u_C3IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16u_C4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16u_AC4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16s_C4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_32f_C4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+KroStatus kroiLUT_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const KroiLUTSpec* pSpec);
+/*
+ * kroiLUTPalette_<t>_<c>R(pSrc, srcStep, pDst, dstStep, roi, pTable, nBitSize): each source
+ * value, masked to its low nBitSize bits, selects its entry of a palette of 2^nBitSize
+ * entries of the destination type; C3, C4 and AC4 take one palette per written channel
+ * (AC4 leaves the fourth channel unwritten).  nBitSize is 1..8 for 8u sources and 1..16 for
+ * 16u sources.  24u destinations are three bytes per pixel, copied in order from the
+ * entry's three bytes (a palette of 3 * 2^nBitSize bytes; read as a little-endian value,
+ * the first byte is the lowest).
+ *   Checks, in order: null source, destination, palette (or one of the channel palettes)
+ *   -8; a step < 1 -16; width or height < 1 -6; nBitSize outside its bounds
+ *   kroStsOutsideRangeErr (-11).
+ */
+KroStatus kroiLUTPalette_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pTable, int nBitSize);
+KroStatus kroiLUTPalette_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* const pTable[3], int nBitSize);
+KroStatus kroiLUTPalette_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* const pTable[4], int nBitSize);
+KroStatus kroiLUTPalette_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* const pTable[3], int nBitSize);
+KroStatus kroiLUTPalette_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u* pTable, int nBitSize);
+KroStatus kroiLUTPalette_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u* const pTable[3], int nBitSize);
+KroStatus kroiLUTPalette_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u* const pTable[4], int nBitSize);
+KroStatus kroiLUTPalette_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u* const pTable[3], int nBitSize);
+KroStatus kroiLUTPalette_8u24u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pTable, int nBitSize);
+KroStatus kroiLUTPalette_8u32u_C1R(const Kro8u* pSrc, int srcStep, Kro32u* pDst, int dstStep, KroiSize roiSize, const Kro32u* pTable, int nBitSize);
+KroStatus kroiLUTPalette_16u8u_C1R(const Kro16u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pTable, int nBitSize);
+KroStatus kroiLUTPalette_16u24u_C1R(const Kro16u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u* pTable, int nBitSize);
+KroStatus kroiLUTPalette_16u32u_C1R(const Kro16u* pSrc, int srcStep, Kro32u* pDst, int dstStep, KroiSize roiSize, const Kro32u* pTable, int nBitSize);
+
+/* end of section LUT */
+
+/* section ALPHA */
+/* =======================================================================================
+ * Alpha composition
+ *
+ * Porter-Duff composition of two images (KroiAlphaOp, 0..11; the formulas stand beside the
+ * codes above).  Alpha 1 is 255 for 8u, 65535 for 16u, 32767 for 16s, 2^31 - 1 for 32s,
+ * 2^32 - 1 for 32u and 1.0 for 32f; alpha values beyond it are used as they are.
+ *
+ * 8u (constant and per-pixel alphas): single precision, products in the order written,
+ * k1 = 0x3B808081 (nearest 1/255), k2 = 0x37810182 (nearest 1/65025) as bit patterns,
+ * results rounded to nearest with ties to even (whatever the caller's rounding control)
+ * and saturated to 0..255:
+ *   Over        round((S1*A1 + S2*w)*k1), w = ((255 - A1)*k1)*A2
+ *   In          round(S1*(A2*(A1*k2)))
+ *   Out         round(S1*((A1*k2)*(255 - A2)))
+ *   Atop, Xor   round((S1*p + S2*q)*k2); Atop p = A1*A2, q = (255 - A1)*A2;
+ *               Xor p = (255 - A2)*A1, q = (255 - A1)*A2
+ *   Plus        round((S1*A1 + S2*A2)*k1)
+ *   OverPremul  min(S1 + div255(S2*(255 - A1)), 255)
+ *   InPremul    div255(S1*A2);  OutPremul div255(S1*(255 - A2))
+ *   AtopPremul, XorPremul  round((S1*u + S2*v)*k1), u = A2 (Atop) or 255 - A2 (Xor),
+ *               v = 255 - A1, saturated at 255
+ *   PlusPremul  min(S1 + S2, 255)
+ * with div255(x) = (x + ((x + 128) >> 8) + 128) >> 8, x / 255 rounded to nearest.  The
+ * alpha constants (w, p, q and the products of In and Out) are formed once per call for
+ * constant alphas and once per pixel for the per-pixel forms.
+ * Every other type: the exact value of the formula (alphas divided by alpha 1) rounded once:
+ * the integer types compute it exactly in integers and round to nearest (alpha 1 is odd,
+ * so no result is a tie), then saturate; 32f computes in double and rounds to single.
+ *
+ * kroiAlphaCompC_<t>_<c>R(pSrc1, step1, alpha1, pSrc2, step2, alpha2, pDst, dstStep, roi,
+ * alphaType): one constant alpha per image.  C1, C3, C4 compose every channel; AC4 and AP4
+ * compose the three colour channels (planes) and never write the fourth.  _IR: the second
+ * source is the destination.
+ *   Checks, in order: a null source, destination or plane pointer -8; width < 1, then
+ *   height < 1 -6; alphaType outside 0..11 (negative ones included) kroStsBadAlphaOpErr
+ *   (-50).  Steps are not checked.
+ * kroiAlphaComp_<t>_<c>R(pSrc1, step1, pSrc2, step2, pDst, dstStep, roi, alphaType): the
+ * alpha of each pixel.  AC4: channels 0..2 are colours, channel 3 the alpha; AP4: planes
+ * 0..2 colours, plane 3 the alpha; AC1: the image is an alpha image.  The destination's
+ * alpha (channel 3 of AC4, plane 3 of AP4, every element of AC1) is written with the
+ * composed alpha: the premultiplied rule of the operation with each alpha as its own
+ * colour (Over and OverPremul: A1 + A2 (1 - A1); In: A1 A2; Out: A1 (1 - A2); Atop: A2;
+ * Xor: A1 (1 - A2) + A2 (1 - A1); Plus: A1 + A2, saturated), with the rounding of the
+ * type above.  _IR (8u and 16u AC1 and AC4, and the AC4 forms of 16s, 32s, 32u, 32f): the
+ * second source is the destination.  Checks as kroiAlphaCompC.
+ * kroiAlphaCompColorKey_8u_AC4R(pSrc1, step1, pSrc2, step2, pDst, dstStep, roi, colorKey,
+ * alphaType): where the three colours of the first source's pixel equal colorKey[0..2],
+ * the destination pixel is the second source's pixel (alpha included); elsewhere it is
+ * composed as by kroiAlphaComp_8u_AC4R.  Checks: null pointers (colorKey included) -8;
+ * width or height < 1 -6; any step < 1 -16; alphaType -50.
+ */
+KroStatus kroiAlphaCompC_8u_C1R(const Kro8u* pSrc1, int src1Step, Kro8u alpha1, const Kro8u* pSrc2, int src2Step, Kro8u alpha2, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_8u_C1IR(const Kro8u* pSrc, int srcStep, Kro8u alpha1, Kro8u* pSrcDst, int srcDstStep, Kro8u alpha2, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_8u_C3R(const Kro8u* pSrc1, int src1Step, Kro8u alpha1, const Kro8u* pSrc2, int src2Step, Kro8u alpha2, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_8u_C3IR(const Kro8u* pSrc, int srcStep, Kro8u alpha1, Kro8u* pSrcDst, int srcDstStep, Kro8u alpha2, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_8u_C4R(const Kro8u* pSrc1, int src1Step, Kro8u alpha1, const Kro8u* pSrc2, int src2Step, Kro8u alpha2, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_8u_C4IR(const Kro8u* pSrc, int srcStep, Kro8u alpha1, Kro8u* pSrcDst, int srcDstStep, Kro8u alpha2, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_8u_AC4R(const Kro8u* pSrc1, int src1Step, Kro8u alpha1, const Kro8u* pSrc2, int src2Step, Kro8u alpha2, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_8u_AC4IR(const Kro8u* pSrc, int srcStep, Kro8u alpha1, Kro8u* pSrcDst, int srcDstStep, Kro8u alpha2, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_8u_AP4R(const Kro8u* const pSrc1[4], int src1Step, Kro8u alpha1, const Kro8u* const pSrc2[4], int src2Step, Kro8u alpha2, Kro8u* const pDst[4], int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_8u_AP4IR(const Kro8u* const pSrc[4], int srcStep, Kro8u alpha1, Kro8u* const pSrcDst[4], int srcDstStep, Kro8u alpha2, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_16u_C1R(const Kro16u* pSrc1, int src1Step, Kro16u alpha1, const Kro16u* pSrc2, int src2Step, Kro16u alpha2, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_16u_C1IR(const Kro16u* pSrc, int srcStep, Kro16u alpha1, Kro16u* pSrcDst, int srcDstStep, Kro16u alpha2, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_16u_C3R(const Kro16u* pSrc1, int src1Step, Kro16u alpha1, const Kro16u* pSrc2, int src2Step, Kro16u alpha2, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_16u_C3IR(const Kro16u* pSrc, int srcStep, Kro16u alpha1, Kro16u* pSrcDst, int srcDstStep, Kro16u alpha2, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_16u_C4R(const Kro16u* pSrc1, int src1Step, Kro16u alpha1, const Kro16u* pSrc2, int src2Step, Kro16u alpha2, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_16u_C4IR(const Kro16u* pSrc, int srcStep, Kro16u alpha1, Kro16u* pSrcDst, int srcDstStep, Kro16u alpha2, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_16u_AC4R(const Kro16u* pSrc1, int src1Step, Kro16u alpha1, const Kro16u* pSrc2, int src2Step, Kro16u alpha2, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_16u_AC4IR(const Kro16u* pSrc, int srcStep, Kro16u alpha1, Kro16u* pSrcDst, int srcDstStep, Kro16u alpha2, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_16u_AP4R(const Kro16u* const pSrc1[4], int src1Step, Kro16u alpha1, const Kro16u* const pSrc2[4], int src2Step, Kro16u alpha2, Kro16u* const pDst[4], int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_16u_AP4IR(const Kro16u* const pSrc[4], int srcStep, Kro16u alpha1, Kro16u* const pSrcDst[4], int srcDstStep, Kro16u alpha2, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_16s_C1R(const Kro16s* pSrc1, int src1Step, Kro16s alpha1, const Kro16s* pSrc2, int src2Step, Kro16s alpha2, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_16s_C1IR(const Kro16s* pSrc, int srcStep, Kro16s alpha1, Kro16s* pSrcDst, int srcDstStep, Kro16s alpha2, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_32s_C1R(const Kro32s* pSrc1, int src1Step, Kro32s alpha1, const Kro32s* pSrc2, int src2Step, Kro32s alpha2, Kro32s* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_32s_C1IR(const Kro32s* pSrc, int srcStep, Kro32s alpha1, Kro32s* pSrcDst, int srcDstStep, Kro32s alpha2, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_32u_C1R(const Kro32u* pSrc1, int src1Step, Kro32u alpha1, const Kro32u* pSrc2, int src2Step, Kro32u alpha2, Kro32u* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_32u_C1IR(const Kro32u* pSrc, int srcStep, Kro32u alpha1, Kro32u* pSrcDst, int srcDstStep, Kro32u alpha2, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_32f_C1R(const Kro32f* pSrc1, int src1Step, Kro32f alpha1, const Kro32f* pSrc2, int src2Step, Kro32f alpha2, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompC_32f_C1IR(const Kro32f* pSrc, int srcStep, Kro32f alpha1, Kro32f* pSrcDst, int srcDstStep, Kro32f alpha2, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaComp_8u_AC1R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaComp_8u_AC1IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaComp_8u_AC4R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaComp_8u_AC4IR(const Kro8u* pSrc, int srcStep, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaComp_8u_AP4R(const Kro8u* const pSrc1[4], int src1Step, const Kro8u* const pSrc2[4], int src2Step, Kro8u* const pDst[4], int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaComp_16u_AC1R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaComp_16u_AC1IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaComp_16u_AC4R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaComp_16u_AC4IR(const Kro16u* pSrc, int srcStep, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaComp_16u_AP4R(const Kro16u* const pSrc1[4], int src1Step, const Kro16u* const pSrc2[4], int src2Step, Kro16u* const pDst[4], int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaComp_16s_AC1R(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaComp_16s_AC4R(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaComp_16s_AC4IR(const Kro16s* pSrc, int srcStep, Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaComp_32s_AC1R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaComp_32s_AC4R(const Kro32s* pSrc1, int src1Step, const Kro32s* pSrc2, int src2Step, Kro32s* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaComp_32s_AC4IR(const Kro32s* pSrc, int srcStep, Kro32s* pSrcDst, int srcDstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaComp_32u_AC1R(const Kro32u* pSrc1, int src1Step, const Kro32u* pSrc2, int src2Step, Kro32u* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaComp_32u_AC4R(const Kro32u* pSrc1, int src1Step, const Kro32u* pSrc2, int src2Step, Kro32u* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaComp_32u_AC4IR(const Kro32u* pSrc, int srcStep, Kro32u* pSrcDst, int srcDstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaComp_32f_AC1R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaComp_32f_AC4R(const Kro32f* pSrc1, int src1Step, const Kro32f* pSrc2, int src2Step, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaComp_32f_AC4IR(const Kro32f* pSrc, int srcStep, Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, KroiAlphaOp alphaType);
+KroStatus kroiAlphaCompColorKey_8u_AC4R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u colorKey[3], KroiAlphaOp alphaType);
+
+/* kroiAlphaPremul_<t>_<c>R(pSrc, srcStep, pDst, dstStep, roi): each colour times its pixel's
+ * alpha, rounded to nearest: 8u div255(S*A), 16u S*A/65535 exactly rounded (no ties).  The
+ * alpha channel (AC4) or plane (AP4) is not written; AP4 needs all four plane pointers.
+ * kroiAlphaPremulC_<t>_<c>R(pSrc, srcStep, alpha, pDst, dstStep, roi), _IR(alpha, pSrcDst,
+ * step, roi): the same with one constant alpha; C1, C3, C4 multiply every channel, AC4 and
+ * AP4 the three colour channels (planes) and leave the fourth unwritten.
+ *   Checks, in order: a null pointer (plane pointers included) -8; width or height < 1 -6.
+ *   Steps are not checked. */
+KroStatus kroiAlphaPremul_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremul_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremul_8u_AP4R(const Kro8u* const pSrc[4], int srcStep, Kro8u* const pDst[4], int dstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremul_8u_AP4IR(Kro8u* const pSrcDst[4], int srcDstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremul_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremul_16u_AC4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremul_16u_AP4R(const Kro16u* const pSrc[4], int srcStep, Kro16u* const pDst[4], int dstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremul_16u_AP4IR(Kro16u* const pSrcDst[4], int srcDstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremulC_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u alpha, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremulC_8u_C1IR(Kro8u alpha, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremulC_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u alpha, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremulC_8u_C3IR(Kro8u alpha, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremulC_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u alpha, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremulC_8u_C4IR(Kro8u alpha, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremulC_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u alpha, Kro8u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremulC_8u_AC4IR(Kro8u alpha, Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremulC_8u_AP4R(const Kro8u* const pSrc[4], int srcStep, Kro8u alpha, Kro8u* const pDst[4], int dstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremulC_8u_AP4IR(Kro8u alpha, Kro8u* const pSrcDst[4], int srcDstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremulC_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u alpha, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremulC_16u_C1IR(Kro16u alpha, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremulC_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u alpha, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremulC_16u_C3IR(Kro16u alpha, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremulC_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u alpha, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremulC_16u_C4IR(Kro16u alpha, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremulC_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u alpha, Kro16u* pDst, int dstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremulC_16u_AC4IR(Kro16u alpha, Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremulC_16u_AP4R(const Kro16u* const pSrc[4], int srcStep, Kro16u alpha, Kro16u* const pDst[4], int dstStep, KroiSize roiSize);
+KroStatus kroiAlphaPremulC_16u_AP4IR(Kro16u alpha, Kro16u* const pSrcDst[4], int srcDstStep, KroiSize roiSize);
+
+/* kroiCompColorKey_<t>_<c>R(pSrc1, step1, pSrc2, step2, pDst, dstStep, roi, colorKey):
+ * the second source's pixel where every channel of the first source's pixel equals the key
+ * (one value for C1, an array of 3 or 4 for C3, C4), the first source's pixel elsewhere.
+ *   Checks, in order: null sources, destination or key array -8; width or height < 1 -6;
+ *   any step < 1 -16. */
+KroStatus kroiCompColorKey_8u_C1R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro8u colorKey);
+KroStatus kroiCompColorKey_8u_C3R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u colorKey[3]);
+KroStatus kroiCompColorKey_8u_C4R(const Kro8u* pSrc1, int src1Step, const Kro8u* pSrc2, int src2Step, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u colorKey[4]);
+KroStatus kroiCompColorKey_16u_C1R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro16u colorKey);
+KroStatus kroiCompColorKey_16u_C3R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u colorKey[3]);
+KroStatus kroiCompColorKey_16u_C4R(const Kro16u* pSrc1, int src1Step, const Kro16u* pSrc2, int src2Step, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u colorKey[4]);
+KroStatus kroiCompColorKey_16s_C1R(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro16s colorKey);
+KroStatus kroiCompColorKey_16s_C3R(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s colorKey[3]);
+KroStatus kroiCompColorKey_16s_C4R(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s colorKey[4]);
+
+/* end of section ALPHA */
 
 #ifdef __cplusplus
 }

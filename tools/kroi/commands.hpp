@@ -67,6 +67,10 @@ int runZonePlate(const Args& args); // unary.cpp
 int runChecker(const Args& args);   // unary.cpp
 int runNoise(const Args& args);     // unary.cpp
 // end of section UNARY
+// section LUTALPHA
+int runLut(const Args& args);       // lutalpha.cpp
+int runComposite(const Args& args); // lutalpha.cpp
+// end of section LUTALPHA
 
 // One line of library identification ("kroIP SSE3 (t3) 2026.0.0 (r0x00000001), Nov 2 2026").
 std::string libraryLine();

@@ -152,6 +152,11 @@ Image sqrt8u(DemoContext& ctx);      // demo_unary.cpp
 Image zonePlate8u(DemoContext& ctx);
 Image gaussNoise8u(DemoContext& ctx);
 // end of section UNARY
+// section LUTALPHA
+Image lutGamma8u(DemoContext& ctx);  // demo_lutalpha.cpp
+Image lutCubic8u(DemoContext& ctx);  // demo_lutalpha.cpp
+Image alphaOps8u(DemoContext& ctx);  // demo_lutalpha.cpp
+// end of section LUTALPHA
 
 // The built-in inputs (sample.cpp): deterministic, the same on every run.
 Image makeScene(int width, int height);  // 8-bit RGB scene

@@ -106,12 +106,18 @@ constexpr DemoEntry kEntries[] = {
     {"histogram-8u-c3", "kroiHistogram_8u_C3R(src, srcStep, {512, 384}, (Kro32u*[]){r, g, b}, spec, buffer)", histogram8u},
     {"moments-8u-c1", "kroiMoments64f_8u_C1R(luma, lumaStep, {512, 384}, &state)", moments8u},
     // end of section MOMHIST
-    {"alloc-8u-c4", "p = kroiMalloc_8u_C4(512, 384, &step); kroiFree(p)", rgba8u},
     // section UNARY
     {"sqrt-8u-c3", "kroiSqrt_8u_C3RSfs(src, srcStep, dst, dstStep, {512, 384}, -4)", sqrt8u},
     {"zoneplate-8u", "kroiImageZonePlate_8u_C1R(dst, dstStep, {512, 384})", zonePlate8u},
     {"noise-gauss-8u-c3", "kroiAddRandGauss_8u_C3IR(img, step, {512, 384}, 0, 24, &seed)", gaussNoise8u},
     // end of section UNARY
+    // section LUTALPHA
+    {"lut-gamma-8u-c3", "kroiLUT_8u_C3R(src, srcStep, dst, dstStep, {512, 384}, spec)", lutGamma8u},
+    {"lut-cubic-8u-c3", "kroiLUT_8u_C3R(src, srcStep, dst, dstStep, {512, 384}, spec)", lutCubic8u},
+    {"alpha-ops-8u-ac4", "kroiAlphaComp_8u_AC4R(a, aStep, b, bStep, dst, dstStep, {512, 384}, op)", alphaOps8u},
+    // end of section LUTALPHA
+    // The allocator entry stays last: its time is an allocation, not a pass over pixels.
+    {"alloc-8u-c4", "p = kroiMalloc_8u_C4(512, 384, &step); kroiFree(p)", rgba8u},
 };
 
 } // namespace

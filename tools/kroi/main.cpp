@@ -121,6 +121,16 @@ constexpr Command kCommands[] = {
     {"checker", "kroi checker OUT.png WxH [--cell N]\n    an 8-bit checkerboard of N-pixel squares (default 32)", runChecker},
     {"noise", "kroi noise IN.png OUT.png --gauss SIGMA|--uniform LO,HI [--seed S]\n    additive Gaussian or uniform noise, the same image for the same seed", runNoise},
     // end of section UNARY
+    // section LUTALPHA
+    {"lut",
+     "kroi lut IN.png OUT.png --curve gamma:G|levels:L0=V0,L1=V1,... [--interp nearest|linear|cubic]\n"
+     "    every colour channel through one tone curve: max (v/max)^(1/G), or the points given (alpha kept)",
+     runLut},
+    {"composite",
+     "kroi composite A.png B.png OUT.png --op over|in|out|atop|xor|plus [--alpha A1,A2]\n"
+     "    A composed onto B with the alphas of the PNGs (RGBA) or two constant alphas",
+     runComposite},
+    // end of section LUTALPHA
     {"png-roundtrip", nullptr, runPngRoundtrip},
 };
 
