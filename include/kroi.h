@@ -2503,6 +2503,64 @@ KroStatus kroiErode3x3_64f_C1R(const Kro64f* pSrc, int srcStep, Kro64f* pDst, in
 
 /* end of section MINMAX */
 
+/* section MEDIAN */
+/* Median filters.  kroiFilterMedianBorder replaces each element by the lower median of its
+ * maskSize neighbourhood: the element of rank (mw*mh - 1) / 2, counted from 0, among the
+ * mw*mh window elements of its channel in ascending order (an even mask takes the lower of
+ * the two middle elements).  The anchor is the mask centre, ax = (mw-1)>>1, ay = (mh-1)>>1:
+ * output (x, y) reads source columns x-ax .. x-ax+mw-1 and rows y-ay .. y-ay+mh-1, so an even
+ * mask reaches one pixel further right (down) than left (up).  Pixels outside the ROI come
+ * from the border code as for kroiFilterBoxBorder (replicate, mirror or constant with the
+ * in-memory flags, or 0xF0; a side the mask does not reach past counts as in memory); an
+ * image not larger than the mask in both directions is first staged into the buffer with the
+ * mode's border copy.  pBorderValue points at one value per channel (three for AC4).  AC4:
+ * the fourth channel is neither read as data nor written.
+ *
+ * 32f order: numbers by value with -0 just below +0; every NaN counts as one value above
+ * +infinity, and a median that falls among the NaNs is the quiet NaN 0x7FC00000.
+ *
+ * Method: 3x3 and 5x5 masks run a sorting network pruned to the median; other masks slide
+ * along each row, 8u with a histogram whose median walks from its previous place, the wider
+ * types with the window kept sorted (each entering element replaces a leaving one).  The
+ * cost per pixel grows with the mask height, not with its area.
+ *
+ * kroiFilterMedianWeightedCenter3x3Border_8u_C1R: the 3x3 median with the centre counted
+ * `weight` times: the element of rank (8 + weight - 1) / 2 among the eight neighbours and
+ * weight copies of the centre (weight >= 9 always gives the centre).  Its buffer is the one
+ * kroiFilterMedianBorderGetBufferSize gives for a 3 x 3 mask, 8u, one channel.
+ *
+ * The work buffer is the caller's, of the size kroiFilterMedianBorderGetBufferSize returns
+ * for the same ROI, mask, data type (1 8u, 5 16u, 7 16s, 13 32f) and channel count (1, 3 or
+ * 4; AC4 counts 4); no alignment is needed.  Two calls may run at once with buffers of their
+ * own.  Source and destination must not overlap.
+ * Query checks, in order: null pBufferSize -8; ROI width or height < 1: -6; mask width or
+ * height < 1: kroStsBadMaskErr (-33); dataType: kroStsBadDataTypeErr (-59); numChannels:
+ * kroStsBadChannelCountErr (-53); a size above 2^31-1: kroStsSizeLimitErr (-232).
+ * Filter checks, in order: null pSrc, pDst or pBuffer -8; srcStep or dstStep < 1: -16; ROI
+ * width or height < 1: -6; mask width or height < 1: -33 (weighted form: weight <= 0:
+ * kroStsBadWeightErr (-211)); border code above 255, or not 0xF0 with a low nibble other
+ * than 1, 3, 6: kroStsBadBorderErr (-225); the constant mode with a null pBorderValue: -8. */
+KroStatus kroiFilterMedianBorderGetBufferSize(KroiSize roiSize, KroiSize maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiFilterMedianBorder_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianWeightedCenter3x3Border_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int weight, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+
+/* end of section MEDIAN */
+
 #ifdef __cplusplus
 }
 #endif
