@@ -2561,6 +2561,61 @@ KroStatus kroiFilterMedianWeightedCenter3x3Border_8u_C1R(const Kro8u* pSrc, int 
 
 /* end of section MEDIAN */
 
+/* section GAUSS */
+/* Gaussian filter.  A separable, symmetric kernel of m = 2r+1 single-precision coefficients
+ * c[0..m-1] (m odd, any size), made by kroiFilterGaussianInit into the caller's
+ * specification:
+ *   if sigma <= 0: sigma = ((m-1)*0.5f - 1) * 0.3f + 0.8f (single precision);
+ *   g[r±k] = (float)exp(-(double)(k*k) / (2.0 * (double)sigma * (double)sigma)), k = 1..r;
+ *   total = 1.0f + g[0] + g[1] + ... (every index but r, ascending, single precision);
+ *   c[i] = g[i] * (1.0f / total) for i != r; c[r] = 1.0f - (sum of those c[i], ascending);
+ * so the kernel is symmetric and its coefficients, summed in that order with the centre
+ * last, give exactly 1.  A NaN or infinite sigma gives kroStsBadArgumentErr (-5).
+ * Every output element (channel by channel, the anchor at the centre, the border as for
+ * kroiFilterBoxBorder) follows this sequence of single-precision operations, the multiply
+ * and the add separate:
+ *   vertical, for each of the W+m-1 columns of the widened row:
+ *     t = c[r]*s(y); for k = 1..r: t = t + c[r+k] * (s(y-k) + s(y+k));
+ *   horizontal: v = c[r]*t(x); for k = 1..r: v = v + c[r+k] * (t(x-k) + t(x+k));
+ * with source elements converted to float exactly.  8u, 16u, 16s: v rounded to nearest with
+ * ties to even (whatever the caller's rounding control), then saturated.  32f: v.
+ * AC4: the fourth channel is neither read as data nor written.
+ *
+ * kroiFilterGaussianGetBufferSize gives the specification's and the work buffer's sizes for
+ * the ROI, kernel size, data type (1 8u, 5 16u, 7 16s, 13 32f) and channel count (1, 3, 4;
+ * AC4 counts 4); neither block needs alignment.  The specification is tagged for its data
+ * type and channel count: a filter of another type or layout, or a block never initialised,
+ * gives kroStsWrongTagErr (-13).  Once initialised it may be used by any number of calls at
+ * once, each with its own work buffer.  Source and destination must not overlap.
+ * Query checks, in order: null pSpecSize or pBufferSize -8; ROI width or height < 1: -6;
+ * kernelSize < 1 or even: kroStsBadMaskErr (-33); dataType -59; numChannels -53; a buffer
+ * above 2^31-1: -232.  Init: null pSpec -8; ROI -6; kernelSize -33; dataType -59;
+ * numChannels -53; sigma not finite -5.
+ * Filter checks, in order: null pSrc, pDst, pSpec or pBuffer -8; srcStep or dstStep < 1:
+ * -16; ROI -6; the specification's tag, type and channels -13; border code -225 (as the box
+ * filter); the constant mode with a null pBorderValue -8. */
+typedef struct KroiFilterGaussianSpec KroiFilterGaussianSpec;
+KroStatus kroiFilterGaussianGetBufferSize(KroiSize roiSize, int kernelSize, KroDataType dataType, int numChannels, int* pSpecSize, int* pBufferSize);
+KroStatus kroiFilterGaussianInit(KroiSize roiSize, int kernelSize, Kro32f sigma, KroDataType dataType, int numChannels, KroiFilterGaussianSpec* pSpec);
+KroStatus kroiFilterGaussianBorder_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16u* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16u* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16u* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16u* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+
+/* end of section GAUSS */
+
 #ifdef __cplusplus
 }
 #endif

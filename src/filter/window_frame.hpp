@@ -39,6 +39,16 @@ inline int elementSize(KroDataType t)
     }
 }
 
+// The data-type code of an element type.
+template <class T>
+constexpr KroDataType dataType()
+{
+    if constexpr (std::is_same_v<T, Kro8u>) return kro8u;
+    else if constexpr (std::is_same_v<T, Kro16u>) return kro16u;
+    else if constexpr (std::is_same_v<T, Kro16s>) return kro16s;
+    else return kro32f;
+}
+
 // True when the image must be staged whatever the flags say (the frame decides with them).
 inline bool mayStage(KroiSize roi, KroiSize mask) { return !(roi.width > mask.width && roi.height > mask.height); }
 
