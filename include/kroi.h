@@ -2616,6 +2616,127 @@ KroStatus kroiFilterGaussianBorder_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro
 
 /* end of section GAUSS */
 
+/* section FIXED */
+/* Fixed-kernel filters: small integer kernels with border synthesis, in the box filter's
+ * frame.  Kernels are written row by row, top row first, y growing downwards and x to the
+ * right; the anchor is ((m-1)>>1, (m-1)>>1) (the centre; (0, 0) for the 2x2 Roberts kernels),
+ * and the border is built as for kroiFilterBoxBorder (modes, in-memory flags, staging of
+ * images not larger than the mask).  Every result is the sum of the products of the
+ * nonzero taps with the window's elements:
+ *   8u and 16s sources: exact in integers, then (sharpen only) divided by 8 rounding to
+ *     nearest with ties to even, then saturated to the destination (8u destinations clip
+ *     negative responses to 0); 8u16s results always fit;
+ *   32f: single precision, the products k*s taken row by row, left to right, zero taps
+ *     skipped, the first product the start and each further one added (multiply and add
+ *     separate); sharpen then multiplies by 0.125f.
+ * Each filter has a buffer query (roiSize, maskSize, dataType of the source, numChannels;
+ * the AC4 layout counts 4) with the box filter query's checks and order: null pBufferSize
+ * -8; ROI -6; a mask size the filter does not have: kroStsBadMaskErr (-33); dataType -59;
+ * numChannels -53; a buffer above 2^31-1: -232.
+ * Filter checks, in order: null pSrc, pDst or pBuffer -8; srcStep or dstStep < 1: -16; ROI
+ * -6; (filters with a maskSize argument) maskSize not 3 or 5: -33; border code -225 (as the
+ * box filter); the constant mode with a null pBorderValue -8.  Source and destination must
+ * not overlap.  AC4: the fourth channel is not written. */
+
+/* Sobel derivatives, maskSize 3 or 5.  With the smoothing s3 = (1 2 1), s5 = (1 4 6 4 1),
+ * first differences d3 = (-1 0 1), d5 = (-1 -2 0 2 1) and second differences
+ * e3 = (1 -2 1), e5 = (1 0 -2 0 1), the kernel k[j][i] is:
+ *   Dx  s[j]*d[i]   (3x3: -1 0 1 / -2 0 2 / -1 0 1)     Dy  d[j]*s[i]
+ *   Dxx s[j]*e[i]   (3x3:  1 -2 1 / 2 -4 2 / 1 -2 1)    Dyy e[j]*s[i]
+ *   Dxy d[j]*d[i]   (3x3:  1 0 -1 / 0 0 0 / -1 0 1)
+ * so Dx is positive where values grow to the right and Dy where they grow downwards. */
+KroStatus kroiFilterSobelBorderGetBufferSize(KroiSize roiSize, int maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiFilterSobelDxBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDxBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDxBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDyBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDyBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDyBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDxxBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDxxBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDxxBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDyyBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDyyBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDyyBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDxyBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDxyBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDxyBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+
+/* Scharr derivatives, 3x3: Dx -3 0 3 / -10 0 10 / -3 0 3; Dy its transpose
+ * (-3 -10 -3 / 0 0 0 / 3 10 3). */
+KroStatus kroiFilterScharrBorderGetBufferSize(KroiSize roiSize, int maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiFilterScharrDxBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterScharrDxBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterScharrDxBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterScharrDyBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterScharrDyBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterScharrDyBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+
+/* Prewitt derivatives, 3x3: Dx -1 0 1 / -1 0 1 / -1 0 1; Dy -1 -1 -1 / 0 0 0 / 1 1 1. */
+KroStatus kroiFilterPrewittBorderGetBufferSize(KroiSize roiSize, int maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiFilterPrewittDxBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterPrewittDxBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterPrewittDxBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterPrewittDyBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterPrewittDyBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterPrewittDyBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+
+/* Roberts cross, 2x2 with the anchor at the top left: Down 1 0 / 0 -1 (the pixel minus its
+ * lower-right neighbour); Up 0 1 / -1 0 (the right neighbour minus the lower one). */
+KroStatus kroiFilterRobertsBorderGetBufferSize(KroiSize roiSize, int maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiFilterRobertsDownBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterRobertsDownBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterRobertsDownBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterRobertsUpBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterRobertsUpBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterRobertsUpBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+
+/* Laplace, maskSize 3: 1 1 1 / 1 -8 1 / 1 1 1; maskSize 5: every tap 1 but the centre, -24.
+ * Positive in dark spots among brighter neighbours; the 8u destinations clip the negative
+ * responses to 0. */
+KroStatus kroiFilterLaplaceBorderGetBufferSize(KroiSize roiSize, int maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiFilterLaplaceBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterLaplaceBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterLaplaceBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterLaplaceBorder_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterLaplaceBorder_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterLaplaceBorder_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterLaplaceBorder_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+
+/* High-pass, maskSize 3: -1 -1 -1 / -1 8 -1 / -1 -1 -1; maskSize 5: every tap -1 but the
+ * centre, 24 (the Laplace kernels negated). */
+KroStatus kroiFilterHighPassBorderGetBufferSize(KroiSize roiSize, int maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiFilterHighPassBorder_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterHighPassBorder_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterHighPassBorder_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterHighPassBorder_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterHighPassBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterHighPassBorder_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterHighPassBorder_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterHighPassBorder_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterHighPassBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterHighPassBorder_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterHighPassBorder_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterHighPassBorder_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+
+/* Sharpen, 3x3: (-1 -1 -1 / -1 16 -1 / -1 -1 -1) / 8, the image plus an eighth of its
+ * high-pass response; integer results rounded to nearest with ties to even. */
+KroStatus kroiFilterSharpenBorderGetBufferSize(KroiSize roiSize, int maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiFilterSharpenBorder_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSharpenBorder_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSharpenBorder_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSharpenBorder_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSharpenBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSharpenBorder_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSharpenBorder_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSharpenBorder_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSharpenBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSharpenBorder_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSharpenBorder_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSharpenBorder_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+
+/* end of section FIXED */
+
 #ifdef __cplusplus
 }
 #endif

@@ -86,14 +86,6 @@ T rounded(float v)
     }
 }
 
-template <class T>
-bool same(T a, T b)
-{
-    if constexpr (std::is_same_v<T, Kro32f>)
-        if (std::isnan(a) && std::isnan(b)) return true;
-    return std::memcmp(&a, &b, sizeof(T)) == 0;
-}
-
 struct Spec {
     std::vector<Kro8u> block;
     const KroiFilterGaussianSpec* get() const { return reinterpret_cast<const KroiFilterGaussianSpec*>(block.data() + 1); }
@@ -148,7 +140,7 @@ void expectRule(const Member<T>& mem, const kt::WindowCase& k, float sigma, kt::
                 float v = c[r] * t[r];
                 for (int q = 1; q <= r; ++q) v = v + c[r + q] * (t[r - q] + t[r + q]);
                 const T want = rounded<T>(v), got = dst.at(x, y, ch);
-                if (!same(got, want)) {
+                if (!kt::sameElement(got, want)) {
                     ADD_FAILURE() << what << " at (" << x << "," << y << "," << ch << "): " << kt::show(got) << " want "
                                   << kt::show(want);
                     ++bad;

@@ -4,7 +4,9 @@
 // not reach past counts as in memory.
 #pragma once
 
+#include <cmath>
 #include <cstdint>
+#include <cstring>
 #include <cstdio>
 #include <string>
 
@@ -20,6 +22,15 @@ KroDataType typeCode()
     else if constexpr (std::is_same_v<T, Kro16u>) return kro16u;
     else if constexpr (std::is_same_v<T, Kro16s>) return kro16s;
     else return kro32f;
+}
+
+// Equal bits, or both NaN (a NaN's payload is not part of any rule here).
+template <class T>
+bool sameElement(T a, T b)
+{
+    if constexpr (std::is_same_v<T, Kro32f>)
+        if (std::isnan(a) && std::isnan(b)) return true;
+    return std::memcmp(&a, &b, sizeof(T)) == 0;
 }
 
 // Border rule over a line of n pixels, stepping instead of taking a modulo.
