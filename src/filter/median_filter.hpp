@@ -197,21 +197,24 @@ struct Lanes<int32_t> {
 template <int A>
 inline constexpr Net<A> kNet = makeNet<A>();
 
+// Every comparator's wires and kind are compile-time constants, so that the vectors stay in
+// registers and no comparator costs a branch.
 template <class L, int A, std::size_t... I>
 [[gnu::always_inline]] inline void runNet(__m128i* v, std::index_sequence<I...>)
 {
-    auto one = [v](const NetOp o) {
-        if (o.kind == 0) {
+    auto one = [v]<std::size_t J>(std::integral_constant<std::size_t, J>) {
+        constexpr NetOp o = kNet<A>.ops[J];
+        if constexpr (o.kind == 0) {
             const __m128i lo = L::min(v[o.a], v[o.b]);
             v[o.b] = L::max(v[o.a], v[o.b]);
             v[o.a] = lo;
-        } else if (o.kind == 1) {
+        } else if constexpr (o.kind == 1) {
             v[o.a] = L::min(v[o.a], v[o.b]);
         } else {
             v[o.b] = L::max(v[o.a], v[o.b]);
         }
     };
-    (one(kNet<A>.ops[I]), ...);
+    (one(std::integral_constant<std::size_t, I>{}), ...);
 }
 
 // The medians of elements i0 .. i0+N-1 of a row, the window rows `rows` holding keys K.
