@@ -56,6 +56,14 @@ int runBox(const Args& args);    // border.cpp
 int runDilate(const Args& args); // minmax.cpp
 int runErode(const Args& args);  // minmax.cpp
 // end of section MINMAX
+// section SMOOTH
+int runMedian(const Args& args);  // smooth.cpp
+int runGauss(const Args& args);   // smooth.cpp
+int runSobel(const Args& args);   // smooth.cpp
+int runScharr(const Args& args);  // smooth.cpp
+int runLaplace(const Args& args); // smooth.cpp
+int runSharpen(const Args& args); // smooth.cpp
+// end of section SMOOTH
 
 // One line of library identification ("kroIP SSE3 (t3) 2026.0.0 (r0x00000001), Nov 2 2026").
 std::string libraryLine();

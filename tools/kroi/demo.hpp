@@ -139,6 +139,12 @@ Image dilate8u(DemoContext& ctx); // demo_minmax.cpp
 Image erode8u(DemoContext& ctx);
 Image opening8u(DemoContext& ctx);
 // end of section MINMAX
+// section SMOOTH
+Image medianSaltPepper(DemoContext& ctx); // demo_smooth.cpp
+Image gaussBlur(DemoContext& ctx);
+Image sobelEdges(DemoContext& ctx);
+Image sharpen8u(DemoContext& ctx);
+// end of section SMOOTH
 
 // The built-in inputs (sample.cpp): deterministic, the same on every run.
 Image makeScene(int width, int height);  // 8-bit RGB scene

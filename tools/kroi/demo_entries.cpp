@@ -160,6 +160,12 @@ constexpr DemoEntry kEntries[] = {
     {"erode-8u-c3-15x3", "kroiFilterMinBorder_8u_C3R(src, step, dst, step, {512, 384}, {15, 3}, kroBorderMirror, 0, buf)", erode8u},
     {"opening-8u-c3-31x31", "kroiFilterMinBorder_8u_C3R(src, ..., tmp, ..., {31, 31}, kroBorderReplicate, 0, buf); kroiFilterMaxBorder_8u_C3R(tmp, ..., dst, ..., {31, 31}, ...)", opening8u},
     // end of section MINMAX
+    // section SMOOTH
+    {"median-8u-c3-salt-pepper", "kroiFilterMedianBorder_8u_C3R(noisy, step, dst, step, {512, 384}, {3, 3}, kroBorderReplicate, 0, buf)", medianSaltPepper},
+    {"gauss-8u-c3-15", "kroiFilterGaussianInit({512, 384}, 15, 3.0f, kro8u, 3, spec); kroiFilterGaussianBorder_8u_C3R(src, step, dst, step, {512, 384}, kroBorderMirror, 0, spec, buf)", gaussBlur},
+    {"sobel-edges-8u", "kroiFilterSobelDxBorder_8u16s_C1R(gray, step, dx, dxStep, {512, 384}, 3, kroBorderReplicate, 0, buf); kroiFilterSobelDyBorder_8u16s_C1R(...)", sobelEdges},
+    {"sharpen-8u-c3", "kroiFilterSharpenBorder_8u_C3R(src, step, dst, step, {512, 384}, kroBorderReplicate, 0, buf)", sharpen8u},
+    // end of section SMOOTH
 };
 
 } // namespace
