@@ -2737,6 +2737,36 @@ KroStatus kroiFilterSharpenBorder_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro3
 
 /* end of section FIXED */
 
+/* section GRADIENT */
+/* Gradient vector from the Sobel pair (kroiGradientVectorSobel).  gx and gy are the Sobel Dx
+ * and Dy responses of maskSize 3 or 5 (kernels, anchor, border and arithmetic as for
+ * kroiFilterSobelDxBorder / DyBorder: exact integers for 8u, the single-precision sequence
+ * for 32f), converted to float.  Then, in single precision:
+ *   magnitude  kroGradientL1: |gx| + |gy|;  kroGradientL2: sqrt(gx*gx + gy*gy), the
+ *              products and the sum rounded separately, the square root correctly rounded;
+ *   angle      (float)atan2((double)gy, (double)gx) in radians, in [-pi, pi]: 0 along +x,
+ *              pi/2 along +y (downwards, as rows grow); a zero gradient gives 0 (or +-pi
+ *              with signed zeros of 32f derivatives, as atan2 defines).
+ * Either output may be null (its step is then not checked), not both.  Sources and outputs
+ * must not overlap.
+ * kroiGradientVectorSobelGetBufferSize checks, in order: null pBufferSize -8; ROI -6;
+ * maskSize not 3 or 5: -33; dataType not kro8u or kro32f: -59; numChannels not 1: -53; a
+ * buffer above 2^31-1: -232.
+ * Checks, in order: null pSrc or pBuffer, or both outputs null: -8; srcStep < 1, or the step
+ * of a given output < 1: -16; ROI -6; maskSize -33; norm not kroGradientL1 or
+ * kroGradientL2: kroStsBadArgumentErr (-5); border code -225 (as the box filter); the
+ * constant mode with a null pBorderValue -8. */
+typedef int KroiGradientNorm;
+enum {
+    kroGradientL1 = 1, /* |gx| + |gy| */
+    kroGradientL2 = 2  /* sqrt(gx^2 + gy^2) */
+};
+KroStatus kroiGradientVectorSobelGetBufferSize(KroiSize roiSize, int maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiGradientVectorSobel_8u32f_C1R(const Kro8u* pSrc, int srcStep, Kro32f* pMagnitude, int magnitudeStep, Kro32f* pAngle, int angleStep, KroiSize roiSize, int maskSize, KroiGradientNorm norm, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiGradientVectorSobel_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pMagnitude, int magnitudeStep, Kro32f* pAngle, int angleStep, KroiSize roiSize, int maskSize, KroiGradientNorm norm, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+
+/* end of section GRADIENT */
+
 #ifdef __cplusplus
 }
 #endif

@@ -8,6 +8,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -341,6 +342,113 @@ TEST(FixedChecks, BufferQueries)
             EXPECT_EQ(q({4, 4}, s, kro8u, 1, &size), has ? kroStsOk : kroStsBadMaskErr) << s;
         }
     }
+}
+
+// ---- the gradient vector ---------------------------------------------------------------------
+
+// Magnitude (both norms) and angle against the Sobel pair of the reference, for both source
+// types, both sizes, each output alone and both together.
+template <class S>
+void expectGradient(int m, bool l2, bool wantMag, bool wantAngle, kt::WindowCase k, kt::Rng& rng)
+{
+    using G = std::conditional_t<std::is_same_v<S, Kro8u>, Kro16s, Kro32f>;
+    k.mw = k.mh = m;
+    kt::Guarded<S> src(kt::Shape{k.W + 2 * k.margin, k.H + 2 * k.margin, 1, 3 * int(sizeof(S)), kt::Guard::After});
+    src.forEach([&](int, int, int, S& e) { e = kt::randomValue<S>(rng, {-100, 100, 0.0}); });
+    kt::Guarded<Kro32f> mag(kt::Shape{k.W, k.H, 1, 8, kt::Guard::Before, 3}), ang(kt::Shape{k.W, k.H, 1, 4, kt::Guard::After});
+    mag.fillBytes(0xA5);
+    ang.fillBytes(0x5A);
+    const auto magCanary = mag.snapshot(), angCanary = ang.snapshot();
+    int size = 0;
+    ASSERT_EQ(kroiGradientVectorSobelGetBufferSize({k.W, k.H}, m, kt::typeCode<S>(), 1, &size), kroStsOk);
+    kt::Guarded<Kro8u> buffer(kt::Shape{size, 1, 1, 0, kt::Guard::After});
+    const S value = S(7);
+    KroStatus st;
+    if constexpr (std::is_same_v<S, Kro8u>)
+        st = kroiGradientVectorSobel_8u32f_C1R(&src.at(k.margin, k.margin), src.step(), wantMag ? mag.ptr() : nullptr, mag.step(),
+                                               wantAngle ? ang.ptr() : nullptr, ang.step(), {k.W, k.H}, m,
+                                               l2 ? kroGradientL2 : kroGradientL1, k.code, &value, buffer.ptr());
+    else
+        st = kroiGradientVectorSobel_32f_C1R(&src.at(k.margin, k.margin), src.step(), wantMag ? mag.ptr() : nullptr, mag.step(),
+                                             wantAngle ? ang.ptr() : nullptr, ang.step(), {k.W, k.H}, m,
+                                             l2 ? kroGradientL2 : kroGradientL1, k.code, &value, buffer.ptr());
+    const std::string what = "gradient " + std::to_string(sizeof(S)) + " mask " + std::to_string(m) + " " + k.name();
+    ASSERT_EQ(st, kroStsOk) << what;
+    const Kernel& kx = kernels().at("SobelDx").at(m);
+    const Kernel& ky = kernels().at("SobelDy").at(m);
+    int bad = 0;
+    for (int y = 0; y < k.H && bad < 5; ++y)
+        for (int x = 0; x < k.W && bad < 5; ++x) {
+            auto w = [&](int i, int j) { return kt::windowAt(src, k, &value, x, y, i, j, 0); };
+            const float gx = float(apply<S, G>(kx, 0, w)), gy = float(apply<S, G>(ky, 0, w));
+            const float wm = l2 ? std::sqrt(gx * gx + gy * gy) : std::fabs(gx) + std::fabs(gy);
+            const float wa = float(std::atan2(double(gy), double(gx)));
+            if (wantMag && !kt::sameElement(mag.at(x, y), wm)) {
+                ADD_FAILURE() << what << " magnitude at " << x << "," << y << ": " << mag.at(x, y) << " want " << wm;
+                ++bad;
+            }
+            if (wantAngle && !kt::sameElement(ang.at(x, y), wa)) {
+                ADD_FAILURE() << what << " angle at " << x << "," << y << ": " << ang.at(x, y) << " want " << wa;
+                ++bad;
+            }
+        }
+    EXPECT_TRUE(wantMag ? mag.restUnchangedSince(magCanary, 1) : mag.unchangedSince(magCanary)) << what;
+    EXPECT_TRUE(wantAngle ? ang.restUnchangedSince(angCanary, 1) : ang.unchangedSince(angCanary)) << what;
+}
+
+TEST(GradientVector, MagnitudeAndAngleFollowTheSobelPair)
+{
+    auto rng = kt::rngForTest();
+    int i = 0;
+    for (int m : {3, 5})
+        for (bool l2 : {false, true})
+            for (auto [wm, wa] : {std::pair{true, true}, std::pair{true, false}, std::pair{false, true}}) {
+                const KroiBorderMode code = i % 3 == 0 ? kroBorderReplicate : i % 3 == 1 ? kroBorderMirror : kroBorderConstant;
+                ++i;
+                expectGradient<Kro8u>(m, l2, wm, wa, {37, 6, 0, 0, code, 0}, rng);
+                expectGradient<Kro32f>(m, l2, wm, wa, {19, 5, 0, 0, code | kroBorderInMemTop, m}, rng);
+                expectGradient<Kro8u>(m, l2, wm, wa, {3, 2, 0, 0, code, 0}, rng);
+            }
+}
+
+TEST(GradientVector, CheckOrderAndQuery)
+{
+    kt::Guarded<Kro8u> src(8, 6);
+    kt::Guarded<Kro32f> mag(8, 6), ang(8, 6);
+    mag.fillBytes(0x3C);
+    const auto canary = mag.snapshot();
+    std::vector<Kro8u> buf(1 << 16);
+    auto call = [&](const Kro8u* s, Kro8u* b, Kro32f* m, Kro32f* a, int ss, int ms, int as, KroiSize roi, int mask, int norm,
+                    KroiBorderMode code, const Kro8u* v) {
+        return kroiGradientVectorSobel_8u32f_C1R(s, ss, m, ms, a, as, roi, mask, norm, code, v, b);
+    };
+    const KroiSize roi{8, 6};
+    const int S = src.step(), M = mag.step();
+    EXPECT_EQ(call(nullptr, nullptr, nullptr, nullptr, 0, 0, 0, {0, 0}, 4, 3, 0x17, nullptr), kroStsNullPointerErr);
+    EXPECT_EQ(call(src.ptr(), nullptr, mag.ptr(), nullptr, 0, 0, 0, {0, 0}, 4, 3, 0x17, nullptr), kroStsNullPointerErr);
+    EXPECT_EQ(call(src.ptr(), buf.data(), nullptr, nullptr, 0, 0, 0, {0, 0}, 4, 3, 0x17, nullptr), kroStsNullPointerErr);
+    EXPECT_EQ(call(src.ptr(), buf.data(), mag.ptr(), nullptr, 0, M, 0, {0, 0}, 4, 3, 0x17, nullptr), kroStsBadStepErr);
+    EXPECT_EQ(call(src.ptr(), buf.data(), mag.ptr(), nullptr, S, 0, 0, {0, 0}, 4, 3, 0x17, nullptr), kroStsBadStepErr);
+    EXPECT_EQ(call(src.ptr(), buf.data(), mag.ptr(), ang.ptr(), S, M, 0, {0, 0}, 4, 3, 0x17, nullptr), kroStsBadStepErr);
+    EXPECT_EQ(call(src.ptr(), buf.data(), mag.ptr(), nullptr, S, M, 0, {8, 0}, 4, 3, 0x17, nullptr), kroStsBadSizeErr);
+    EXPECT_EQ(call(src.ptr(), buf.data(), mag.ptr(), nullptr, S, M, 0, roi, 4, 3, 0x17, nullptr), kroStsBadMaskErr);
+    EXPECT_EQ(call(src.ptr(), buf.data(), mag.ptr(), nullptr, S, M, 0, roi, 5, 3, 0x17, nullptr), kroStsBadArgumentErr);
+    EXPECT_EQ(call(src.ptr(), buf.data(), mag.ptr(), nullptr, S, M, 0, roi, 5, 0, 0x17, nullptr), kroStsBadArgumentErr);
+    EXPECT_EQ(call(src.ptr(), buf.data(), mag.ptr(), nullptr, S, M, 0, roi, 5, kroGradientL1, 0x17, nullptr), kroStsBadBorderErr);
+    EXPECT_EQ(call(src.ptr(), buf.data(), mag.ptr(), nullptr, S, M, 0, roi, 5, kroGradientL1, kroBorderConstant, nullptr),
+              kroStsNullPointerErr);
+    EXPECT_TRUE(mag.unchangedSince(canary));
+    EXPECT_EQ(kroiGradientVectorSobel_32f_C1R(nullptr, 4, mag.ptr(), M, nullptr, 0, roi, 3, kroGradientL2, kroBorderMirror,
+                                              nullptr, buf.data()),
+              kroStsNullPointerErr);
+    int size = -1;
+    EXPECT_EQ(kroiGradientVectorSobelGetBufferSize(roi, 3, kro8u, 1, nullptr), kroStsNullPointerErr);
+    EXPECT_EQ(kroiGradientVectorSobelGetBufferSize({0, 6}, 4, kro16u, 3, &size), kroStsBadSizeErr);
+    EXPECT_EQ(kroiGradientVectorSobelGetBufferSize(roi, 4, kro16u, 3, &size), kroStsBadMaskErr);
+    EXPECT_EQ(kroiGradientVectorSobelGetBufferSize(roi, 5, kro16u, 3, &size), kroStsBadDataTypeErr);
+    EXPECT_EQ(kroiGradientVectorSobelGetBufferSize(roi, 5, kro32f, 3, &size), kroStsBadChannelCountErr);
+    EXPECT_EQ(kroiGradientVectorSobelGetBufferSize({2, 2000000000}, 5, kro32f, 1, &size), kroStsSizeLimitErr);
+    EXPECT_EQ(size, -1);
 }
 
 }  // namespace
