@@ -36,10 +36,13 @@ inline int64_t specBytes(int m) { return 16 + int64_t(offsetof(Spec, coef)) + 4 
 
 inline bool kernelOk(int m) { return m >= 1 && (m & 1); }
 
-// Bytes beyond the frame: the float row of the vertical pass and an output row for AC4.
+// Bytes beyond the frame: the float row of the vertical pass, an output row for AC4, and
+// for integer types m widened rows converted to float, a table of m row pointers, so that each
+// source row is converted once rather than once per tap.
 inline int64_t extraBytes(KroiSize roi, int m, int64_t e, int64_t n)
 {
-    return window::align64((int64_t(roi.width) + m - 1) * n * 4) + window::align64(int64_t(roi.width) * n * e);
+    const int64_t row = window::align64((int64_t(roi.width) + m - 1) * n * 4);
+    return row + window::align64(int64_t(roi.width) * n * e) + (e == 4 ? 0 : m * row + window::align64(8 * int64_t(m)));
 }
 
 KroStatus getBufferSize(KroiSize roi, int kernelSize, KroDataType type, int channels, int* pSpecSize, int* pBufferSize)
@@ -89,6 +92,27 @@ KroStatus init(KroiSize roi, int kernelSize, Kro32f sigma, KroDataType type, int
 }
 
 // ---- the passes ------------------------------------------------------------------------------
+
+// A widened row of integers as floats (exact).
+template <class T>
+void toFloat(const T* in, float* out, int64_t n)
+{
+    int64_t i = 0;
+    if constexpr (std::is_same_v<T, Kro8u>) {
+        const __m128i z = _mm_setzero_si128();
+        for (; i + 16 <= n; i += 16) {
+            const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(in + i));
+            const __m128i lo = _mm_unpacklo_epi8(v, z), hi = _mm_unpackhi_epi8(v, z);
+            _mm_storeu_ps(out + i, _mm_cvtepi32_ps(_mm_unpacklo_epi16(lo, z)));
+            _mm_storeu_ps(out + i + 4, _mm_cvtepi32_ps(_mm_unpackhi_epi16(lo, z)));
+            _mm_storeu_ps(out + i + 8, _mm_cvtepi32_ps(_mm_unpacklo_epi16(hi, z)));
+            _mm_storeu_ps(out + i + 12, _mm_cvtepi32_ps(_mm_unpackhi_epi16(hi, z)));
+        }
+    } else {
+        for (; i + 4 <= n; i += 4) _mm_storeu_ps(out + i, box::Vec<float>::in<T>(in + i));
+    }
+    for (; i < n; ++i) out[i] = float(in[i]);
+}
 
 // t[i] = c[r]*R[r][i] + sum over k = 1..r of c[r+k]*(R[r-k][i] + R[r+k][i]), k ascending.
 template <class T>
@@ -162,11 +186,22 @@ KroStatus filterBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, KroiSiz
     const int m = s->size, r = m >> 1;
     const KroiSize mask{m, m};
     const int64_t n = int64_t(roi.width) * C, wide = (int64_t(roi.width) + m - 1) * C;
+    const int64_t rowBytes = window::align64(wide * 4);
     float* t = reinterpret_cast<float*>(window::extraArea<T, C>(pBuffer, roi, mask));
-    T* whole = reinterpret_cast<T*>(reinterpret_cast<char*>(t) + window::align64(wide * 4));
+    T* whole = reinterpret_cast<T*>(reinterpret_cast<char*>(t) + rowBytes);
+    float* ring = reinterpret_cast<float*>(reinterpret_cast<char*>(whole) + window::align64(n * int64_t(sizeof(T))));
+    const float** table = reinterpret_cast<const float**>(reinterpret_cast<char*>(ring) + m * rowBytes);
     const RoundingScope nearest(RoundingScope::kNearest);
     window::run<T, C>(pSrc, srcStep, roi, mask, borderType, pad, pBuffer, [&](int64_t y, const T* const* rows) {
-        vertical<T>(rows, s->coef, r, t, wide);
+        if constexpr (std::is_same_v<T, Kro32f>) {
+            vertical<T>(rows, s->coef, r, t, wide);
+        } else {
+            // Window row j of output row y is source row y-r+j: slot (y+j) mod m of the ring,
+            // converted when it enters (all m of them for the first row).
+            for (int j = y == 0 ? 0 : m - 1; j < m; ++j) toFloat(rows[j], ring + ((y + j) % m) * (rowBytes / 4), wide);
+            for (int j = 0; j < m; ++j) table[j] = ring + ((y + j) % m) * (rowBytes / 4);
+            vertical<float>(table, s->coef, r, t, wide);
+        }
         T* d = C == WC ? window::rowAt(pDst, dstStep, y) : whole;
         horizontal<T, C>(t, s->coef, r, d, n);
         if constexpr (C != WC) {
