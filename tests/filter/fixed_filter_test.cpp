@@ -192,7 +192,7 @@ void expectRule(const Member<S, D>& mem, int m, kt::WindowCase k, kt::Rng& rng, 
     const int C = mem.C, WC = mem.alpha ? 3 : C;
     kt::Guarded<S> src(kt::Shape{k.W + 2 * k.margin, k.H + 2 * k.margin, C, 3 * int(sizeof(S)), kt::Guard::After});
     src.forEach([&](int, int, int, S& e) { e = kt::randomValue<S>(rng, mix); });
-    kt::Guarded<D> dst(kt::Shape{k.W, k.H, C, 5 * int(sizeof(D)), kt::Guard::Before, 3});
+    kt::Guarded<D> dst(kt::typed<D>(kt::Shape{k.W, k.H, C, 5 * int(sizeof(D)), kt::Guard::Before, 6}));
     dst.fillBytes(0xA5);
     const auto canary = dst.snapshot();
     int size = 0;
@@ -355,7 +355,7 @@ void expectGradient(int m, bool l2, bool wantMag, bool wantAngle, kt::WindowCase
     k.mw = k.mh = m;
     kt::Guarded<S> src(kt::Shape{k.W + 2 * k.margin, k.H + 2 * k.margin, 1, 3 * int(sizeof(S)), kt::Guard::After});
     src.forEach([&](int, int, int, S& e) { e = kt::randomValue<S>(rng, {-100, 100, 0.0}); });
-    kt::Guarded<Kro32f> mag(kt::Shape{k.W, k.H, 1, 8, kt::Guard::Before, 3}), ang(kt::Shape{k.W, k.H, 1, 4, kt::Guard::After});
+    kt::Guarded<Kro32f> mag(kt::Shape{k.W, k.H, 1, 8, kt::Guard::Before, 4}), ang(kt::Shape{k.W, k.H, 1, 4, kt::Guard::After});
     mag.fillBytes(0xA5);
     ang.fillBytes(0x5A);
     const auto magCanary = mag.snapshot(), angCanary = ang.snapshot();

@@ -111,7 +111,7 @@ void expectRule(const Member<T>& mem, const kt::WindowCase& k, float sigma, kt::
     const int C = mem.C, WC = mem.alpha ? 3 : C, m = k.mw, r = m >> 1;
     kt::Guarded<T> src(kt::Shape{k.W + 2 * k.margin, k.H + 2 * k.margin, C, 3 * int(sizeof(T)), kt::Guard::After});
     src.forEach([&](int, int, int, T& e) { e = kt::randomValue<T>(rng, mix); });
-    kt::Guarded<T> dst(kt::Shape{k.W, k.H, C, 5 * int(sizeof(T)), kt::Guard::Before, 3});
+    kt::Guarded<T> dst(kt::typed<T>(kt::Shape{k.W, k.H, C, 5 * int(sizeof(T)), kt::Guard::Before, 6}));
     dst.fillBytes(0xA5);
     const auto canary = dst.snapshot();
     int size = 0;

@@ -89,7 +89,7 @@ void expectRule(const Member<T>& m, const kt::WindowCase& k, kt::Rng& rng, bool 
     const int C = m.C, WC = m.alpha ? 3 : C;
     kt::Guarded<T> src(kt::Shape{k.W + 2 * k.margin, k.H + 2 * k.margin, C, 3 * int(sizeof(T)), kt::Guard::After});
     fill(src, rng, ties, mix);
-    kt::Guarded<T> dst(kt::Shape{k.W, k.H, C, 5 * int(sizeof(T)), kt::Guard::Before, 3});
+    kt::Guarded<T> dst(kt::typed<T>(kt::Shape{k.W, k.H, C, 5 * int(sizeof(T)), kt::Guard::Before, 6}));
     dst.fillBytes(0xA5);
     const auto canary = dst.snapshot();
     int size = 0;
