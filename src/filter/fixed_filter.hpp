@@ -142,20 +142,42 @@ inline void unroll(F&& f)
     (std::make_integer_sequence<int, N>{});
 }
 
-// Eight results of an 8u source as 16-bit sums.
+// Sixteen results of an 8u source as two vectors of 16-bit sums (one load per tap).
 template <class K, int C>
-inline __m128i sum8u(const Kro8u* const* rows, int64_t x)
+inline void sum8u(const Kro8u* const* rows, int64_t x, __m128i& a, __m128i& b)
 {
-    __m128i acc = _mm_setzero_si128();
+    a = b = _mm_setzero_si128();
     const __m128i z = _mm_setzero_si128();
+    auto load = [&](int j, int i, __m128i& lo, __m128i& hi) {
+        const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(rows[j] + x + i * C));
+        lo = _mm_unpacklo_epi8(v, z);
+        hi = _mm_unpackhi_epi8(v, z);
+    };
+    // Taps i and m-1-i of a row with equal or opposite coefficients share one multiply (the
+    // 16-bit sums wrap exactly, and the total fits).
     unroll<K::m * K::m>([&](auto t) {
-        constexpr int k = K::k[t.value];
-        if constexpr (k != 0) {
-            const Kro8u* p = rows[t.value / K::m] + x + (t.value % K::m) * C;
-            acc = tap16<k>(acc, _mm_unpacklo_epi8(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)), z));
+        constexpr int m = K::m, j = t.value / m, i = t.value % m, i2 = m - 1 - i;
+        constexpr int k = K::k[t.value], k2 = K::k[j * m + i2];
+        if constexpr (i < i2 && k != 0 && (k == k2 || k == -k2)) {
+            __m128i l1, h1, l2, h2;
+            load(j, i, l1, h1);
+            load(j, i2, l2, h2);
+            if constexpr (k == k2) {
+                a = tap16<k>(a, _mm_add_epi16(l1, l2));
+                b = tap16<k>(b, _mm_add_epi16(h1, h2));
+            } else {
+                a = tap16<k2>(a, _mm_sub_epi16(l2, l1));
+                b = tap16<k2>(b, _mm_sub_epi16(h2, h1));
+            }
+        } else if constexpr (k != 0 && !(i > i2 && (k == k2 || k == -k2))) {
+            __m128i l, h;
+            load(j, i, l, h);
+            a = tap16<k>(a, l);
+            b = tap16<k>(b, h);
         }
     });
-    return roundShift16<K::shift>(acc);
+    a = roundShift16<K::shift>(a);
+    b = roundShift16<K::shift>(b);
 }
 
 // Eight results of a 16s source as two vectors of 32-bit sums (the full products from the
@@ -210,7 +232,8 @@ void row(const S* const* rows, D* d, int64_t n)
     int64_t x = 0;
     if constexpr (std::is_same_v<S, Kro8u>) {
         for (; x + 16 <= n; x += 16) {
-            const __m128i a = sum8u<K, C>(rows, x), b = sum8u<K, C>(rows, x + 8);
+            __m128i a, b;
+            sum8u<K, C>(rows, x, a, b);
             if constexpr (std::is_same_v<D, Kro8u>) {
                 _mm_storeu_si128(reinterpret_cast<__m128i*>(d + x), _mm_packus_epi16(a, b));
             } else {
