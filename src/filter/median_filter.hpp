@@ -264,8 +264,12 @@ void rowNetwork(const K* const* rows, int64_t n, K* scratch, Store&& store)
 // the median of nine is the median of the largest low, the median of the middles and the
 // smallest high of its three columns, which costs a third of the network's comparisons.
 template <int C, class Store>
-void row3x3Columns(const Kro8u* const* rows, int64_t n, Kro8u* lo, Kro8u* mid, Kro8u* hi, Store&& store)
+void row3x3Columns(const Kro8u* const* rowTable, int64_t n, Kro8u* lo, Kro8u* mid, Kro8u* hi, Store&& storeRef)
 {
+    // Local copies: byte stores may alias anything, and the pointers would be reloaded after
+    // every one of them.
+    const Kro8u* const rows[3] = {rowTable[0], rowTable[1], rowTable[2]};
+    auto store = storeRef;
     const int64_t wide = n + 2 * C;
     auto load = [](const Kro8u* p) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p)); };
     auto put = [](Kro8u* p, __m128i v) { _mm_storeu_si128(reinterpret_cast<__m128i*>(p), v); };
