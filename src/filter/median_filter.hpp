@@ -248,9 +248,13 @@ K selectAt(const K* const* rows, int64_t i, int mw, int mh, K* scratch)
 // Output keys of one row through a network; the tail (fewer than N elements left) overlaps
 // the last full vector, or is selected one by one when the row is shorter than a vector.
 template <class K, int C, int MW, int MH, class Store>
-void rowNetwork(const K* const* rows, int64_t n, K* scratch, Store&& store)
+void rowNetwork(const K* const* rowTable, int64_t n, K* scratch, Store&& storeRef)
 {
     constexpr int N = Lanes<K>::N;
+    // Local copies, which the vector stores (that may alias anything) cannot change.
+    const K* rows[MH];
+    for (int j = 0; j < MH; ++j) rows[j] = rowTable[j];
+    auto store = storeRef;
     if (n < N) {
         for (int64_t i = 0; i < n; ++i) store.one(i, selectAt<K, C>(rows, i, MW, MH, scratch));
         return;
