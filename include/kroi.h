@@ -2519,7 +2519,9 @@ KroStatus kroiErode3x3_64f_C1R(const Kro64f* pSrc, int srcStep, Kro64f* pDst, in
  * 32f order: numbers by value with -0 just below +0; every NaN counts as one value above
  * +infinity, and a median that falls among the NaNs is the quiet NaN 0x7FC00000.
  *
- * Method: 3x3 and 5x5 masks run a sorting network pruned to the median; other masks slide
+ * Method: 3x3 of 8u sorts each column of three once per row and takes the median of the
+ * largest low, the median of the middles and the smallest high of the three columns; other
+ * 3x3 and all 5x5 masks run a sorting network pruned to the median; other masks slide
  * along each row, 8u with a histogram whose median walks from its previous place, the wider
  * types with the window kept sorted (each entering element replaces a leaving one).  The
  * cost per pixel grows with the mask height, not with its area.

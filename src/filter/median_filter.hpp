@@ -7,7 +7,9 @@
 // value), and every NaN the one key above +infinity, which comes back as the quiet NaN
 // 0x7FC00000.
 //
-// Three methods, chosen by the mask; each gives exactly the rank above:
+// Four methods, chosen by the mask; each gives exactly the rank above:
+//   3x3 of 8u   each column of three sorted once per row, then the median of nine from
+//               the three sorted columns of its window;
 //   3x3, 5x5    a sorting network padded to 16 or 32 wires with keys above every value,
 //               pruned (at compile time) to the comparators the median wire depends on,
 //               run on 16, 8 or 4 elements at once;
