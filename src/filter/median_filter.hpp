@@ -316,28 +316,35 @@ void row3x3Columns(const Kro8u* const* rowTable, int64_t n, Kro8u* lo, Kro8u* mi
     if (x < n) store.vec(n - 16, at(n - 16));
 }
 
-// 8u: a histogram per channel slid along the row; the median walks from where it was.
+// 8u: a histogram per channel slid along the row; the median walks from where it was.  The
+// channels advance together, so that each window row's bytes are read once for all of them.
 template <int C, class Store>
 void rowHistogram(const Kro8u* const* rows, int64_t w, int mw, int mh, int32_t* hist, Store&& store)
 {
     const int target = (mw * mh - 1) / 2;
-    for (int c = 0; c < C; ++c) {
-        int32_t* h = hist + 256 * c;
-        std::memset(h, 0, 256 * sizeof(int32_t));
-        for (int j = 0; j < mh; ++j)
-            for (int k = 0; k < mw; ++k) ++h[rows[j][k * C + c]];
-        int med = 0, below = 0; // below: elements of the window less than med
-        for (int64_t x = 0;; ++x) {
-            while (below > target) below -= h[--med];
-            while (below + h[med] <= target) below += h[med++];
-            store.one(x * C + c, Kro8u(med));
-            if (x + 1 == w) break;
-            for (int j = 0; j < mh; ++j) {
-                const int out = rows[j][x * C + c], in = rows[j][(x + mw) * C + c];
-                --h[out];
-                below -= out < med;
-                ++h[in];
-                below += in < med;
+    std::memset(hist, 0, 256 * C * sizeof(int32_t));
+    for (int j = 0; j < mh; ++j)
+        for (int k = 0; k < mw; ++k)
+            for (int c = 0; c < C; ++c) ++hist[256 * c + rows[j][k * C + c]];
+    int med[C] = {}, below[C] = {}; // below: elements of the window less than med
+    for (int64_t x = 0;; ++x) {
+        for (int c = 0; c < C; ++c) {
+            const int32_t* h = hist + 256 * c;
+            int m = med[c], b = below[c];
+            while (b > target) b -= h[--m];
+            while (b + h[m] <= target) b += h[m++];
+            med[c] = m;
+            below[c] = b;
+            store.one(x * C + c, Kro8u(m));
+        }
+        if (x + 1 == w) break;
+        for (int j = 0; j < mh; ++j) {
+            const Kro8u* r = rows[j] + x * C;
+            for (int c = 0; c < C; ++c) {
+                const int out = r[c], in = r[mw * C + c];
+                --hist[256 * c + out];
+                ++hist[256 * c + in];
+                below[c] += (in < med[c]) - (out < med[c]);
             }
         }
     }
