@@ -2568,7 +2568,7 @@ KroStatus kroiFilterMedianWeightedCenter3x3Border_8u_C1R(const Kro8u* pSrc, int 
  * c[0..m-1] (m odd, any size), made by kroiFilterGaussianInit into the caller's
  * specification:
  *   if sigma <= 0: sigma = ((m-1)*0.5f - 1) * 0.3f + 0.8f (single precision);
- *   g[r±k] = (float)exp(-(double)(k*k) / (2.0 * (double)sigma * (double)sigma)), k = 1..r;
+ *   g[r-k] = g[r+k] = (float)exp(-((double)k*(double)k) / (2.0 * (double)sigma * (double)sigma)), k = 1..r;
  *   total = 1.0f + g[0] + g[1] + ... (every index but r, ascending, single precision);
  *   c[i] = g[i] * (1.0f / total) for i != r; c[r] = 1.0f - (sum of those c[i], ascending);
  * so the kernel is symmetric and its coefficients, summed in that order with the centre

@@ -71,7 +71,7 @@ KroStatus init(KroiSize roi, int kernelSize, Kro32f sigma, KroDataType type, int
     const double d = 2.0 * double(sigma) * double(sigma);
     float sum = 0.0f;
     for (int k = 1; k <= r; ++k) {
-        const float g = float(std::exp(-double(k * k) / d));
+        const float g = float(std::exp(-(double(k) * double(k)) / d));
         s->coef[r - k] = s->coef[r + k] = g;
     }
     float total = 1.0f; // the centre's value before normalising

@@ -59,7 +59,7 @@ std::vector<float> kernel(int m, float sigma)
     if (sigma <= 0.0f) sigma = (float(m - 1) * 0.5f - 1.0f) * 0.3f + 0.8f;
     std::vector<float> c(m);
     for (int k = 1; k <= r; ++k)
-        c[r - k] = c[r + k] = float(std::exp(-double(k * k) / (2.0 * double(sigma) * double(sigma))));
+        c[r - k] = c[r + k] = float(std::exp(-(double(k) * double(k)) / (2.0 * double(sigma) * double(sigma))));
     float total = 1.0f;
     for (int i = 0; i < m; ++i)
         if (i != r) total = total + c[i];
