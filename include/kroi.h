@@ -3281,6 +3281,271 @@ KroStatus kroiCompColorKey_16s_C3R(const Kro16s* pSrc1, int src1Step, const Kro1
 KroStatus kroiCompColorKey_16s_C4R(const Kro16s* pSrc1, int src1Step, const Kro16s* pSrc2, int src2Step, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s colorKey[4]);
 
 /* end of section ALPHA */
+/* section MEDIAN */
+/* Median filters.  kroiFilterMedianBorder replaces each element by the lower median of its
+ * maskSize neighbourhood: the element of rank (mw*mh - 1) / 2, counted from 0, among the
+ * mw*mh window elements of its channel in ascending order (an even mask takes the lower of
+ * the two middle elements).  The anchor is the mask centre, ax = (mw-1)>>1, ay = (mh-1)>>1:
+ * output (x, y) reads source columns x-ax .. x-ax+mw-1 and rows y-ay .. y-ay+mh-1, so an even
+ * mask reaches one pixel further right (down) than left (up).  Pixels outside the ROI come
+ * from the border code as for kroiFilterBoxBorder (replicate, mirror or constant with the
+ * in-memory flags, or 0xF0; a side the mask does not reach past counts as in memory); an
+ * image not larger than the mask in both directions is first staged into the buffer with the
+ * mode's border copy.  pBorderValue points at one value per channel (three for AC4).  AC4:
+ * the fourth channel is neither read as data nor written.
+ *
+ * 32f order: numbers by value with -0 just below +0; every NaN counts as one value above
+ * +infinity, and a median that falls among the NaNs is the quiet NaN 0x7FC00000.
+ *
+ * Method: 3x3 of 8u sorts each column of three once per row and takes the median of the
+ * largest low, the median of the middles and the smallest high of the three columns; other
+ * 3x3 and all 5x5 masks run a sorting network pruned to the median; other masks slide
+ * along each row, 8u with a histogram whose median walks from its previous place, the wider
+ * types with the window kept sorted (each entering element replaces a leaving one).  The
+ * cost per pixel grows with the mask height, not with its area.
+ *
+ * kroiFilterMedianWeightedCenter3x3Border_8u_C1R: the 3x3 median with the centre counted
+ * `weight` times: the element of rank (8 + weight - 1) / 2 among the eight neighbours and
+ * weight copies of the centre (weight >= 9 always gives the centre).  Its buffer is the one
+ * kroiFilterMedianBorderGetBufferSize gives for a 3 x 3 mask, 8u, one channel.
+ *
+ * The work buffer is the caller's, of the size kroiFilterMedianBorderGetBufferSize returns
+ * for the same ROI, mask, data type (1 8u, 5 16u, 7 16s, 13 32f) and channel count (1, 3 or
+ * 4; AC4 counts 4); no alignment is needed.  Two calls may run at once with buffers of their
+ * own.  Source and destination must not overlap.
+ * Query checks, in order: null pBufferSize -8; ROI width or height < 1: -6; mask width or
+ * height < 1: kroStsBadMaskErr (-33); dataType: kroStsBadDataTypeErr (-59); numChannels:
+ * kroStsBadChannelCountErr (-53); a size above 2^31-1: kroStsSizeLimitErr (-232).
+ * Filter checks, in order: null pSrc, pDst or pBuffer -8; srcStep or dstStep < 1: -16; ROI
+ * width or height < 1: -6; mask width or height < 1: -33 (weighted form: weight <= 0:
+ * kroStsBadWeightErr (-211)); border code above 255, or not 0xF0 with a low nibble other
+ * than 1, 3, 6: kroStsBadBorderErr (-225); the constant mode with a null pBorderValue: -8. */
+KroStatus kroiFilterMedianBorderGetBufferSize(KroiSize roiSize, KroiSize maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiFilterMedianBorder_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianBorder_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterMedianWeightedCenter3x3Border_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int weight, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+
+/* end of section MEDIAN */
+
+/* section GAUSS */
+/* Gaussian filter.  A separable, symmetric kernel of m = 2r+1 single-precision coefficients
+ * c[0..m-1] (m odd, any size), made by kroiFilterGaussianInit into the caller's
+ * specification:
+ *   if sigma <= 0: sigma = ((m-1)*0.5f - 1) * 0.3f + 0.8f (single precision);
+ *   g[r-k] = g[r+k] = (float)exp(-((double)k*(double)k) / (2.0 * (double)sigma * (double)sigma)), k = 1..r;
+ *   total = 1.0f + g[0] + g[1] + ... (every index but r, ascending, single precision);
+ *   c[i] = g[i] * (1.0f / total) for i != r; c[r] = 1.0f - (sum of those c[i], ascending);
+ * so the kernel is symmetric and its coefficients, summed in that order with the centre
+ * last, give exactly 1.  A NaN or infinite sigma gives kroStsBadArgumentErr (-5).
+ * Every output element (channel by channel, the anchor at the centre, the border as for
+ * kroiFilterBoxBorder) follows this sequence of single-precision operations, the multiply
+ * and the add separate:
+ *   vertical, for each of the W+m-1 columns of the widened row:
+ *     t = c[r]*s(y); for k = 1..r: t = t + c[r+k] * (s(y-k) + s(y+k));
+ *   horizontal: v = c[r]*t(x); for k = 1..r: v = v + c[r+k] * (t(x-k) + t(x+k));
+ * with source elements converted to float exactly.  8u, 16u, 16s: v rounded to nearest with
+ * ties to even (whatever the caller's rounding control), then saturated.  32f: v.
+ * AC4: the fourth channel is neither read as data nor written.
+ *
+ * kroiFilterGaussianGetBufferSize gives the specification's and the work buffer's sizes for
+ * the ROI, kernel size, data type (1 8u, 5 16u, 7 16s, 13 32f) and channel count (1, 3, 4;
+ * AC4 counts 4); neither block needs alignment.  The specification is tagged for its data
+ * type and channel count: a filter of another type or layout, or a block never initialised,
+ * gives kroStsWrongTagErr (-13).  Once initialised it may be used by any number of calls at
+ * once, each with its own work buffer.  Source and destination must not overlap.
+ * Query checks, in order: null pSpecSize or pBufferSize -8; ROI width or height < 1: -6;
+ * kernelSize < 1 or even: kroStsBadMaskErr (-33); dataType -59; numChannels -53; a buffer
+ * above 2^31-1: -232.  Init: null pSpec -8; ROI -6; kernelSize -33; dataType -59;
+ * numChannels -53; sigma not finite -5.
+ * Filter checks, in order: null pSrc, pDst, pSpec or pBuffer -8; srcStep or dstStep < 1:
+ * -16; ROI -6; the specification's tag, type and channels -13; border code -225 (as the box
+ * filter); the constant mode with a null pBorderValue -8. */
+typedef struct KroiFilterGaussianSpec KroiFilterGaussianSpec;
+KroStatus kroiFilterGaussianGetBufferSize(KroiSize roiSize, int kernelSize, KroDataType dataType, int numChannels, int* pSpecSize, int* pBufferSize);
+KroStatus kroiFilterGaussianInit(KroiSize roiSize, int kernelSize, Kro32f sigma, KroDataType dataType, int numChannels, KroiFilterGaussianSpec* pSpec);
+KroStatus kroiFilterGaussianBorder_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16u* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16u* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16u* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16u* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiFilterGaussianBorder_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, const KroiFilterGaussianSpec* pSpec, Kro8u* pBuffer);
+
+/* end of section GAUSS */
+
+/* section FIXED */
+/* Fixed-kernel filters: small integer kernels with border synthesis, in the box filter's
+ * frame.  Kernels are written row by row, top row first, y growing downwards and x to the
+ * right; the anchor is ((m-1)>>1, (m-1)>>1) (the centre; (0, 0) for the 2x2 Roberts kernels),
+ * and the border is built as for kroiFilterBoxBorder (modes, in-memory flags, staging of
+ * images not larger than the mask).  Every result is the sum of the products of the
+ * nonzero taps with the window's elements:
+ *   8u and 16s sources: exact in integers, then (sharpen only) divided by 8 rounding to
+ *     nearest with ties to even, then saturated to the destination (8u destinations clip
+ *     negative responses to 0); 8u16s results always fit;
+ *   32f: single precision, the products k*s taken row by row, left to right, zero taps
+ *     skipped, the first product the start and each further one added (multiply and add
+ *     separate); sharpen then multiplies by 0.125f.
+ * Each filter has a buffer query (roiSize, maskSize, dataType of the source, numChannels;
+ * the AC4 layout counts 4) with the box filter query's checks and order: null pBufferSize
+ * -8; ROI -6; a mask size the filter does not have: kroStsBadMaskErr (-33); dataType -59;
+ * numChannels -53; a buffer above 2^31-1: -232.
+ * Filter checks, in order: null pSrc, pDst or pBuffer -8; srcStep or dstStep < 1: -16; ROI
+ * -6; (filters with a maskSize argument) maskSize not 3 or 5: -33; border code -225 (as the
+ * box filter); the constant mode with a null pBorderValue -8.  Source and destination must
+ * not overlap.  AC4: the fourth channel is not written. */
+
+/* Sobel derivatives, maskSize 3 or 5.  With the smoothing s3 = (1 2 1), s5 = (1 4 6 4 1),
+ * first differences d3 = (-1 0 1), d5 = (-1 -2 0 2 1) and second differences
+ * e3 = (1 -2 1), e5 = (1 0 -2 0 1), the kernel k[j][i] is:
+ *   Dx  s[j]*d[i]   (3x3: -1 0 1 / -2 0 2 / -1 0 1)     Dy  d[j]*s[i]
+ *   Dxx s[j]*e[i]   (3x3:  1 -2 1 / 2 -4 2 / 1 -2 1)    Dyy e[j]*s[i]
+ *   Dxy d[j]*d[i]   (3x3:  1 0 -1 / 0 0 0 / -1 0 1)
+ * so Dx is positive where values grow to the right and Dy where they grow downwards. */
+KroStatus kroiFilterSobelBorderGetBufferSize(KroiSize roiSize, int maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiFilterSobelDxBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDxBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDxBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDyBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDyBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDyBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDxxBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDxxBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDxxBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDyyBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDyyBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDyyBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDxyBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDxyBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSobelDxyBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+
+/* Scharr derivatives, 3x3: Dx -3 0 3 / -10 0 10 / -3 0 3; Dy its transpose
+ * (-3 -10 -3 / 0 0 0 / 3 10 3). */
+KroStatus kroiFilterScharrBorderGetBufferSize(KroiSize roiSize, int maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiFilterScharrDxBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterScharrDxBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterScharrDxBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterScharrDyBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterScharrDyBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterScharrDyBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+
+/* Prewitt derivatives, 3x3: Dx -1 0 1 / -1 0 1 / -1 0 1; Dy -1 -1 -1 / 0 0 0 / 1 1 1. */
+KroStatus kroiFilterPrewittBorderGetBufferSize(KroiSize roiSize, int maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiFilterPrewittDxBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterPrewittDxBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterPrewittDxBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterPrewittDyBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterPrewittDyBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterPrewittDyBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+
+/* Roberts cross, 2x2 with the anchor at the top left: Down 1 0 / 0 -1 (the pixel minus its
+ * lower-right neighbour); Up 0 1 / -1 0 (the right neighbour minus the lower one). */
+KroStatus kroiFilterRobertsBorderGetBufferSize(KroiSize roiSize, int maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiFilterRobertsDownBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterRobertsDownBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterRobertsDownBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterRobertsUpBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterRobertsUpBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterRobertsUpBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+
+/* Laplace, maskSize 3: 1 1 1 / 1 -8 1 / 1 1 1; maskSize 5: every tap 1 but the centre, -24.
+ * Positive in dark spots among brighter neighbours; the 8u destinations clip the negative
+ * responses to 0. */
+KroStatus kroiFilterLaplaceBorderGetBufferSize(KroiSize roiSize, int maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiFilterLaplaceBorder_8u16s_C1R(const Kro8u* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterLaplaceBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterLaplaceBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterLaplaceBorder_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterLaplaceBorder_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterLaplaceBorder_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterLaplaceBorder_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+
+/* High-pass, maskSize 3: -1 -1 -1 / -1 8 -1 / -1 -1 -1; maskSize 5: every tap -1 but the
+ * centre, 24 (the Laplace kernels negated). */
+KroStatus kroiFilterHighPassBorderGetBufferSize(KroiSize roiSize, int maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiFilterHighPassBorder_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterHighPassBorder_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterHighPassBorder_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterHighPassBorder_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterHighPassBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterHighPassBorder_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterHighPassBorder_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterHighPassBorder_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterHighPassBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterHighPassBorder_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterHighPassBorder_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterHighPassBorder_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, int maskSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+
+/* Sharpen, 3x3: (-1 -1 -1 / -1 16 -1 / -1 -1 -1) / 8, the image plus an eighth of its
+ * high-pass response; integer results rounded to nearest with ties to even. */
+KroStatus kroiFilterSharpenBorderGetBufferSize(KroiSize roiSize, int maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiFilterSharpenBorder_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSharpenBorder_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSharpenBorder_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSharpenBorder_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSharpenBorder_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSharpenBorder_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSharpenBorder_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSharpenBorder_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro16s* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSharpenBorder_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSharpenBorder_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSharpenBorder_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiFilterSharpenBorder_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+
+/* end of section FIXED */
+
+/* section GRADIENT */
+/* Gradient vector from the Sobel pair (kroiGradientVectorSobel).  gx and gy are the Sobel Dx
+ * and Dy responses of maskSize 3 or 5 (kernels, anchor, border and arithmetic as for
+ * kroiFilterSobelDxBorder / DyBorder: exact integers for 8u, the single-precision sequence
+ * for 32f), converted to float.  Then, in single precision:
+ *   magnitude  kroGradientL1: |gx| + |gy|;  kroGradientL2: sqrt(gx*gx + gy*gy), the
+ *              products and the sum rounded separately, the square root correctly rounded;
+ *   angle      (float)atan2((double)gy, (double)gx) in radians, in [-pi, pi]: 0 along +x,
+ *              pi/2 along +y (downwards, as rows grow); a zero gradient gives 0 (or +-pi
+ *              with signed zeros of 32f derivatives, as atan2 defines).
+ * Either output may be null (its step is then not checked), not both.  Sources and outputs
+ * must not overlap.
+ * kroiGradientVectorSobelGetBufferSize checks, in order: null pBufferSize -8; ROI -6;
+ * maskSize not 3 or 5: -33; dataType not kro8u or kro32f: -59; numChannels not 1: -53; a
+ * buffer above 2^31-1: -232.
+ * Checks, in order: null pSrc or pBuffer, or both outputs null: -8; srcStep < 1, or the step
+ * of a given output < 1: -16; ROI -6; maskSize -33; norm not kroGradientL1 or
+ * kroGradientL2: kroStsBadArgumentErr (-5); border code -225 (as the box filter); the
+ * constant mode with a null pBorderValue -8. */
+typedef int KroiGradientNorm;
+enum {
+    kroGradientL1 = 1, /* |gx| + |gy| */
+    kroGradientL2 = 2  /* sqrt(gx^2 + gy^2) */
+};
+KroStatus kroiGradientVectorSobelGetBufferSize(KroiSize roiSize, int maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiGradientVectorSobel_8u32f_C1R(const Kro8u* pSrc, int srcStep, Kro32f* pMagnitude, int magnitudeStep, Kro32f* pAngle, int angleStep, KroiSize roiSize, int maskSize, KroiGradientNorm norm, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
+KroStatus kroiGradientVectorSobel_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pMagnitude, int magnitudeStep, Kro32f* pAngle, int angleStep, KroiSize roiSize, int maskSize, KroiGradientNorm norm, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
+
+/* end of section GRADIENT */
 
 #ifdef __cplusplus
 }

@@ -71,6 +71,14 @@ int runNoise(const Args& args);     // unary.cpp
 int runLut(const Args& args);       // lutalpha.cpp
 int runComposite(const Args& args); // lutalpha.cpp
 // end of section LUTALPHA
+// section SMOOTH
+int runMedian(const Args& args);  // smooth.cpp
+int runGauss(const Args& args);   // smooth.cpp
+int runSobel(const Args& args);   // smooth.cpp
+int runScharr(const Args& args);  // smooth.cpp
+int runLaplace(const Args& args); // smooth.cpp
+int runSharpen(const Args& args); // smooth.cpp
+// end of section SMOOTH
 
 // One line of library identification ("kroIP SSE3 (t3) 2026.0.0 (r0x00000001), Nov 2 2026").
 std::string libraryLine();

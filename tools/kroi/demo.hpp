@@ -157,6 +157,12 @@ Image lutGamma8u(DemoContext& ctx);  // demo_lutalpha.cpp
 Image lutCubic8u(DemoContext& ctx);  // demo_lutalpha.cpp
 Image alphaOps8u(DemoContext& ctx);  // demo_lutalpha.cpp
 // end of section LUTALPHA
+// section SMOOTH
+Image medianSaltPepper(DemoContext& ctx); // demo_smooth.cpp
+Image gaussBlur(DemoContext& ctx);
+Image sobelEdges(DemoContext& ctx);
+Image sharpen8u(DemoContext& ctx);
+// end of section SMOOTH
 
 // The built-in inputs (sample.cpp): deterministic, the same on every run.
 Image makeScene(int width, int height);  // 8-bit RGB scene

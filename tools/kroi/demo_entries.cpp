@@ -116,6 +116,12 @@ constexpr DemoEntry kEntries[] = {
     {"lut-cubic-8u-c3", "kroiLUT_8u_C3R(src, srcStep, dst, dstStep, {512, 384}, spec)", lutCubic8u},
     {"alpha-ops-8u-ac4", "kroiAlphaComp_8u_AC4R(a, aStep, b, bStep, dst, dstStep, {512, 384}, op)", alphaOps8u},
     // end of section LUTALPHA
+    // section SMOOTH
+    {"median-8u-c3-salt-pepper", "kroiFilterMedianBorder_8u_C3R(noisy, step, dst, step, {512, 384}, {3, 3}, kroBorderReplicate, 0, buf)", medianSaltPepper},
+    {"gauss-8u-c3-15", "kroiFilterGaussianInit({512, 384}, 15, 3.0f, kro8u, 3, spec); kroiFilterGaussianBorder_8u_C3R(src, step, dst, step, {512, 384}, kroBorderMirror, 0, spec, buf)", gaussBlur},
+    {"sobel-edges-8u", "kroiFilterSobelDxBorder_8u16s_C1R(gray, step, dx, dxStep, {512, 384}, 3, kroBorderReplicate, 0, buf); kroiFilterSobelDyBorder_8u16s_C1R(...)", sobelEdges},
+    {"sharpen-8u-c3", "kroiFilterSharpenBorder_8u_C3R(src, step, dst, step, {512, 384}, kroBorderReplicate, 0, buf)", sharpen8u},
+    // end of section SMOOTH
     // The allocator entry stays last: its time is an allocation, not a pass over pixels.
     {"alloc-8u-c4", "p = kroiMalloc_8u_C4(512, 384, &step); kroiFree(p)", rgba8u},
 };

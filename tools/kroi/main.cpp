@@ -131,6 +131,20 @@ constexpr Command kCommands[] = {
      "    A composed onto B with the alphas of the PNGs (RGBA) or two constant alphas",
      runComposite},
     // end of section LUTALPHA
+    // section SMOOTH
+    {"median",
+     "kroi median IN.png OUT.png WxH [--border replicate|mirror|constant[=V]]\n"
+     "    lower median over a W x H rectangle (8/16-bit gray, RGB, RGBA; alpha kept)",
+     runMedian},
+    {"gauss",
+     "kroi gauss IN.png OUT.png SIZE [SIGMA] [--border replicate|mirror|constant[=V]]\n"
+     "    Gaussian smoothing, odd SIZE, SIGMA derived from SIZE when left out or <= 0",
+     runGauss},
+    {"sobel", "kroi sobel IN.png OUT.png [3|5] [--border ...]\n    8-bit edge map |dx| + |dy| of the gray level", runSobel},
+    {"scharr", "kroi scharr IN.png OUT.png [--border ...]\n    8-bit edge map |dx| + |dy| of the gray level, Scharr kernels", runScharr},
+    {"laplace", "kroi laplace IN.png OUT.png [3|5] [--border ...]\n    Laplace response of 8-bit images, negative clipped to 0", runLaplace},
+    {"sharpen", "kroi sharpen IN.png OUT.png [--border ...]\n    the image plus an eighth of its high-pass response (8-bit)", runSharpen},
+    // end of section SMOOTH
     {"png-roundtrip", nullptr, runPngRoundtrip},
 };
 

@@ -1,0 +1,11 @@
+// The Laplace, high-pass and sharpen filters: their buffer queries and API functions.
+#include "filter/fixed_filter.hpp"
+#include "frame/bind.hpp"
+
+namespace filter = KROI_TIER::filter;
+
+#define KROI_EXPORT KROI_BIND
+KROI_BIND_LIST {
+#include "filter/fixed_sharp.exports.inc"
+}
+#undef KROI_EXPORT
