@@ -3319,7 +3319,10 @@ KroStatus kroiCompColorKey_16s_C4R(const Kro16s* pSrc1, int src1Step, const Kro1
  * Filter checks, in order: null pSrc, pDst or pBuffer -8; srcStep or dstStep < 1: -16; ROI
  * width or height < 1: -6; mask width or height < 1: -33 (weighted form: weight <= 0:
  * kroStsBadWeightErr (-211)); border code above 255, or not 0xF0 with a low nibble other
- * than 1, 3, 6: kroStsBadBorderErr (-225); the constant mode with a null pBorderValue: -8. */
+ * than 1, 3, 6: kroStsBadBorderErr (-225); the constant mode with a null pBorderValue: -8;
+ * last, a call whose bordered rows and staged copy alone need more than 2^31 - 1 bytes: -6
+ * (the query gives -232 there), before anything is read or written.  The Gaussian and
+ * fixed-kernel filters below, which share this frame, end their checks the same way. */
 KroStatus kroiFilterMedianBorderGetBufferSize(KroiSize roiSize, KroiSize maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
 KroStatus kroiFilterMedianBorder_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);
 KroStatus kroiFilterMedianBorder_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, KroiBorderMode borderType, const Kro8u* pBorderValue, Kro8u* pBuffer);

@@ -307,6 +307,7 @@ KroStatus filter(const S* pSrc, int srcStep, D* pDst, int dstStep, KroiSize roi,
 {
     S pad[4] = {};
     KROI_CHECK((checkArgs<S, D, WC>(pSrc, srcStep, pDst, dstStep, roi, borderType, pBorderValue, pBuffer, pad)));
+    KROI_CHECK((window::checkWorkArea<S, C>(roi, KroiSize{K::m, K::m})));
     run<K, S, D, C, WC>(pSrc, srcStep, pDst, dstStep, roi, borderType, pad, pBuffer);
     return kroStsOk;
 }
@@ -322,6 +323,7 @@ KroStatus filter35(const S* pSrc, int srcStep, D* pDst, int dstStep, KroiSize ro
     KROI_CHECK(border::checkFilterMode(borderType));
     S pad[4] = {};
     KROI_CHECK((window::borderValue<S, WC>(borderType, pBorderValue, pad)));
+    KROI_CHECK((window::checkWorkArea<S, C>(roi, KroiSize{maskSize, maskSize})));
     if (maskSize == 3)
         run<K3, S, D, C, WC>(pSrc, srcStep, pDst, dstStep, roi, borderType, pad, pBuffer);
     else

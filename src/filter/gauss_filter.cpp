@@ -183,6 +183,7 @@ KroStatus filterBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, KroiSiz
     KROI_CHECK(border::checkFilterMode(borderType));
     T pad[4] = {};
     KROI_CHECK((window::borderValue<T, WC>(borderType, pBorderValue, pad)));
+    KROI_CHECK((window::checkWorkArea<T, C>(roi, KroiSize{s->size, s->size})));
     const int m = s->size, r = m >> 1;
     const KroiSize mask{m, m};
     const int64_t n = int64_t(roi.width) * C, wide = (int64_t(roi.width) + m - 1) * C;

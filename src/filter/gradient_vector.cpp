@@ -79,6 +79,7 @@ KroStatus sobel(const S* pSrc, int srcStep, Kro32f* pMag, int magStep, Kro32f* p
     KROI_CHECK(border::checkFilterMode(borderType));
     S pad[4] = {};
     KROI_CHECK((window::borderValue<S, 1>(borderType, pBorderValue, pad)));
+    KROI_CHECK((window::checkWorkArea<S, 1>(roi, KroiSize{maskSize, maskSize})));
     using G = Deriv<S>;
     const KroiSize mask{maskSize, maskSize};
     G* gx = reinterpret_cast<G*>(window::extraArea<S, 1>(pBuffer, roi, mask));

@@ -22,6 +22,7 @@ KroStatus filterBorder(const T* pSrc, int srcStep, T* pDst, int dstStep, KroiSiz
     KROI_CHECK(border::checkFilterMode(borderType));
     T pad[4] = {};
     KROI_CHECK((window::borderValue<T, WC>(borderType, pBorderValue, pad)));
+    KROI_CHECK((window::checkWorkArea<T, C>(roi, mask)));
     run<T, C, WC>(pSrc, srcStep, pDst, dstStep, roi, mask, borderType, pad, pBuffer);
     return kroStsOk;
 }
@@ -39,6 +40,7 @@ KroStatus weightedCenter3x3(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dst
     KROI_CHECK(border::checkFilterMode(borderType));
     Kro8u pad[4] = {};
     KROI_CHECK((window::borderValue<Kro8u, 1>(borderType, pBorderValue, pad)));
+    KROI_CHECK((window::checkWorkArea<Kro8u, 1>(roi, KroiSize{3, 3})));
     const int64_t k = (int64_t(8) + weight - 1) / 2;
     window::run<Kro8u, 1>(pSrc, srcStep, roi, {3, 3}, borderType, pad, pBuffer, [&](int64_t y, const Kro8u* const* r) {
         Kro8u* d = window::rowAt(pDst, dstStep, y);

@@ -54,13 +54,26 @@ inline bool mayStage(KroiSize roi, KroiSize mask) { return !(roi.width > mask.wi
 
 // Bytes of the frame's areas for ROI W x H, mask mw x mh, element size e, n elements per
 // pixel, plus `extra`, with the 64 bytes of alignment slack.
+// Exact in 128 bits (a staged copy of the largest sizes passes 2^64 bytes), then clamped to
+// the int64 range, far above any size a query gives.
 inline int64_t frameBytes(KroiSize roi, KroiSize mask, int64_t e, int64_t n, int64_t extra)
 {
-    const int64_t wb = int64_t(roi.width) + mask.width - 1, hb = int64_t(roi.height) + mask.height - 1;
-    const int64_t row = align64(wb * n * e);
-    int64_t total = 64 + (int64_t(mask.height) + 1) * row + align64(16 * int64_t(mask.height)) + align64(extra);
-    if (mayStage(roi, mask)) total += align64(wb * hb * n * e);
-    return total;
+    using I = __int128;
+    const auto a64 = [](I v) { return (v + 63) / 64 * 64; };
+    const I wb = I(roi.width) + mask.width - 1, hb = I(roi.height) + mask.height - 1;
+    const I row = a64(wb * n * e);
+    I total = 64 + (I(mask.height) + 1) * row + a64(16 * I(mask.height)) + a64(extra);
+    if (mayStage(roi, mask)) total += a64(wb * hb * n * e);
+    return total > I(INT64_MAX) ? INT64_MAX : int64_t(total);
+}
+
+// An operation's own refusal (-6), before anything is read or written, of a call whose frame
+// alone needs more than 2^31 - 1 bytes: the query gives -232 there, so no buffer can have
+// been sized for it.
+template <class T, int C>
+KroStatus checkWorkArea(KroiSize roi, KroiSize mask)
+{
+    return frameBytes(roi, mask, sizeof(T), C, 0) > 0x7FFFFFFF ? kroStsBadSizeErr : kroStsOk;
 }
 
 // The common query: null pBufferSize -8, ROI -6, mask -33 (`maskOk` false), data type -59,

@@ -60,4 +60,21 @@ TEST(WorkArea, BoxRefusesWhatNoQueryDescribes)
     EXPECT_TRUE(buffer.unchangedSince(bufBefore));
 }
 
+// The median, Gaussian and fixed-kernel filters share one frame; the median stands for it.
+TEST(WorkArea, WindowFiltersRefuseWhatNoQueryDescribes)
+{
+    const KroiSize roi{65536, 5}, mask{1, 32768};
+    int size = 0;
+    EXPECT_EQ(kroiFilterMedianBorderGetBufferSize(roi, mask, kro16u, 4, &size), kroStsSizeLimitErr);
+    kt::Guarded<Kro16u> src(roi.width, roi.height, 4), dst(roi.width, roi.height, 4);
+    kt::Guarded<Kro8u> buffer(4096, 1, 1);
+    dst.fillBytes(0x6B), buffer.fillBytes(0x6C);
+    const auto dstBefore = dst.snapshot(), bufBefore = buffer.snapshot();
+    EXPECT_EQ(kroiFilterMedianBorder_16u_C4R(src.ptr(), src.step(), dst.ptr(), dst.step(), roi, mask, kroBorderReplicate,
+                                             nullptr, buffer.ptr()),
+              kroStsBadSizeErr);
+    EXPECT_TRUE(dst.unchangedSince(dstBefore));
+    EXPECT_TRUE(buffer.unchangedSince(bufBefore));
+}
+
 }  // namespace
