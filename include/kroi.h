@@ -2659,6 +2659,220 @@ KroStatus kroiHistogram_32f_C4R(const Kro32f* pSrc, int srcStep, KroiSize roiSiz
 
 /* end of section HISTOGRAM */
 
+/* section THRESHOLD */
+/* =======================================================================================
+ * Thresholds
+ *
+ * Fixed thresholds, per channel, with threshold T and value V of the element's channel (one
+ * value by value for C1, arrays of three for C3 and AC4, of four for C4):
+ *   kroiThreshold_LT, and kroiThreshold with kroCompareLess (0):    dst = src < T ? T : src
+ *   kroiThreshold_GT, and kroiThreshold with kroCompareGreater (4): dst = src > T ? T : src
+ *   kroiThreshold_LTVal, and kroiThreshold_Val with 0:              dst = src < T ? V : src
+ *   kroiThreshold_GTVal, and kroiThreshold_Val with 4:              dst = src > T ? V : src
+ *   kroiThreshold_LTValGTVal: dst = src < lower T ? lower V : src > upper T ? upper V : src
+ * Comparisons are strict: an element equal to its threshold is kept.  32f compares as IEEE
+ * does: a NaN element or a NaN threshold compares false, so the element is kept; -0 and +0
+ * are equal.  AC4 forms never read the fourth element of the parameters nor write the fourth
+ * channel of the destination.  IR forms work in place.  Results never depend on the cache
+ * size or on the rows being contiguous.
+ *
+ * Checks, in order; the first failure returns and nothing is written:
+ *   kroiThreshold:       any pointer (image or parameter array) null -8; width or height
+ *                        below 1 -6; a step below 1 -16; operation neither 0 nor 4 -14.
+ *   kroiThreshold_Val:   operation neither 0 nor 4 -14 (before any pointer, on purpose);
+ *                        then pointers -8, size -6, steps -16.
+ *   _LT, _GT, _LTVal, _GTVal: pointers -8, size -6, steps -16.
+ *   _LTValGTVal:         pointers -8, size -6, steps -16, then an upper threshold below its
+ *                        lower one in some channel kroStsThresholdOrderErr (-19); equal
+ *                        thresholds are accepted.
+ * ======================================================================================= */
+KroStatus kroiThreshold_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro8u threshold, KroCompareOp op);
+KroStatus kroiThreshold_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro8u threshold, KroCompareOp op);
+KroStatus kroiThreshold_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro16u threshold, KroCompareOp op);
+KroStatus kroiThreshold_16u_C1IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16u threshold, KroCompareOp op);
+KroStatus kroiThreshold_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_16u_C3IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_16u_AC4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro16s threshold, KroCompareOp op);
+KroStatus kroiThreshold_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16s threshold, KroCompareOp op);
+KroStatus kroiThreshold_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f threshold, KroCompareOp op);
+KroStatus kroiThreshold_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, Kro32f threshold, KroCompareOp op);
+KroStatus kroiThreshold_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_LT_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro8u threshold);
+KroStatus kroiThreshold_LT_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro8u threshold);
+KroStatus kroiThreshold_LT_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3]);
+KroStatus kroiThreshold_LT_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3]);
+KroStatus kroiThreshold_LT_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3]);
+KroStatus kroiThreshold_LT_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3]);
+KroStatus kroiThreshold_LT_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro16u threshold);
+KroStatus kroiThreshold_LT_16u_C1IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16u threshold);
+KroStatus kroiThreshold_LT_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3]);
+KroStatus kroiThreshold_LT_16u_C3IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3]);
+KroStatus kroiThreshold_LT_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3]);
+KroStatus kroiThreshold_LT_16u_AC4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3]);
+KroStatus kroiThreshold_LT_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro16s threshold);
+KroStatus kroiThreshold_LT_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16s threshold);
+KroStatus kroiThreshold_LT_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3]);
+KroStatus kroiThreshold_LT_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3]);
+KroStatus kroiThreshold_LT_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3]);
+KroStatus kroiThreshold_LT_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3]);
+KroStatus kroiThreshold_LT_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f threshold);
+KroStatus kroiThreshold_LT_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, Kro32f threshold);
+KroStatus kroiThreshold_LT_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3]);
+KroStatus kroiThreshold_LT_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3]);
+KroStatus kroiThreshold_LT_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3]);
+KroStatus kroiThreshold_LT_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3]);
+KroStatus kroiThreshold_GT_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro8u threshold);
+KroStatus kroiThreshold_GT_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro8u threshold);
+KroStatus kroiThreshold_GT_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3]);
+KroStatus kroiThreshold_GT_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3]);
+KroStatus kroiThreshold_GT_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3]);
+KroStatus kroiThreshold_GT_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3]);
+KroStatus kroiThreshold_GT_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro16u threshold);
+KroStatus kroiThreshold_GT_16u_C1IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16u threshold);
+KroStatus kroiThreshold_GT_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3]);
+KroStatus kroiThreshold_GT_16u_C3IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3]);
+KroStatus kroiThreshold_GT_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3]);
+KroStatus kroiThreshold_GT_16u_AC4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3]);
+KroStatus kroiThreshold_GT_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro16s threshold);
+KroStatus kroiThreshold_GT_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16s threshold);
+KroStatus kroiThreshold_GT_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3]);
+KroStatus kroiThreshold_GT_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3]);
+KroStatus kroiThreshold_GT_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3]);
+KroStatus kroiThreshold_GT_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3]);
+KroStatus kroiThreshold_GT_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f threshold);
+KroStatus kroiThreshold_GT_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, Kro32f threshold);
+KroStatus kroiThreshold_GT_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3]);
+KroStatus kroiThreshold_GT_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3]);
+KroStatus kroiThreshold_GT_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3]);
+KroStatus kroiThreshold_GT_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3]);
+KroStatus kroiThreshold_Val_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro8u threshold, Kro8u value, KroCompareOp op);
+KroStatus kroiThreshold_Val_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro8u threshold, Kro8u value, KroCompareOp op);
+KroStatus kroiThreshold_Val_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro16u threshold, Kro16u value, KroCompareOp op);
+KroStatus kroiThreshold_Val_16u_C1IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16u threshold, Kro16u value, KroCompareOp op);
+KroStatus kroiThreshold_Val_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_16u_C3IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_16u_AC4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro16s threshold, Kro16s value, KroCompareOp op);
+KroStatus kroiThreshold_Val_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16s threshold, Kro16s value, KroCompareOp op);
+KroStatus kroiThreshold_Val_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f threshold, Kro32f value, KroCompareOp op);
+KroStatus kroiThreshold_Val_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, Kro32f threshold, Kro32f value, KroCompareOp op);
+KroStatus kroiThreshold_Val_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3], KroCompareOp op);
+KroStatus kroiThreshold_LTVal_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro8u threshold, Kro8u value);
+KroStatus kroiThreshold_LTVal_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro8u threshold, Kro8u value);
+KroStatus kroiThreshold_LTVal_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3]);
+KroStatus kroiThreshold_LTVal_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3]);
+KroStatus kroiThreshold_LTVal_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[4], const Kro8u value[4]);
+KroStatus kroiThreshold_LTVal_8u_C4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[4], const Kro8u value[4]);
+KroStatus kroiThreshold_LTVal_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3]);
+KroStatus kroiThreshold_LTVal_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3]);
+KroStatus kroiThreshold_LTVal_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro16u threshold, Kro16u value);
+KroStatus kroiThreshold_LTVal_16u_C1IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16u threshold, Kro16u value);
+KroStatus kroiThreshold_LTVal_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3]);
+KroStatus kroiThreshold_LTVal_16u_C3IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3]);
+KroStatus kroiThreshold_LTVal_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[4], const Kro16u value[4]);
+KroStatus kroiThreshold_LTVal_16u_C4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[4], const Kro16u value[4]);
+KroStatus kroiThreshold_LTVal_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3]);
+KroStatus kroiThreshold_LTVal_16u_AC4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3]);
+KroStatus kroiThreshold_LTVal_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro16s threshold, Kro16s value);
+KroStatus kroiThreshold_LTVal_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16s threshold, Kro16s value);
+KroStatus kroiThreshold_LTVal_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3]);
+KroStatus kroiThreshold_LTVal_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3]);
+KroStatus kroiThreshold_LTVal_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[4], const Kro16s value[4]);
+KroStatus kroiThreshold_LTVal_16s_C4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[4], const Kro16s value[4]);
+KroStatus kroiThreshold_LTVal_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3]);
+KroStatus kroiThreshold_LTVal_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3]);
+KroStatus kroiThreshold_LTVal_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f threshold, Kro32f value);
+KroStatus kroiThreshold_LTVal_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, Kro32f threshold, Kro32f value);
+KroStatus kroiThreshold_LTVal_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3]);
+KroStatus kroiThreshold_LTVal_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3]);
+KroStatus kroiThreshold_LTVal_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[4], const Kro32f value[4]);
+KroStatus kroiThreshold_LTVal_32f_C4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[4], const Kro32f value[4]);
+KroStatus kroiThreshold_LTVal_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3]);
+KroStatus kroiThreshold_LTVal_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3]);
+KroStatus kroiThreshold_GTVal_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro8u threshold, Kro8u value);
+KroStatus kroiThreshold_GTVal_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro8u threshold, Kro8u value);
+KroStatus kroiThreshold_GTVal_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3]);
+KroStatus kroiThreshold_GTVal_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3]);
+KroStatus kroiThreshold_GTVal_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[4], const Kro8u value[4]);
+KroStatus kroiThreshold_GTVal_8u_C4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[4], const Kro8u value[4]);
+KroStatus kroiThreshold_GTVal_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3]);
+KroStatus kroiThreshold_GTVal_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3]);
+KroStatus kroiThreshold_GTVal_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro16u threshold, Kro16u value);
+KroStatus kroiThreshold_GTVal_16u_C1IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16u threshold, Kro16u value);
+KroStatus kroiThreshold_GTVal_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3]);
+KroStatus kroiThreshold_GTVal_16u_C3IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3]);
+KroStatus kroiThreshold_GTVal_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[4], const Kro16u value[4]);
+KroStatus kroiThreshold_GTVal_16u_C4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[4], const Kro16u value[4]);
+KroStatus kroiThreshold_GTVal_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3]);
+KroStatus kroiThreshold_GTVal_16u_AC4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3]);
+KroStatus kroiThreshold_GTVal_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro16s threshold, Kro16s value);
+KroStatus kroiThreshold_GTVal_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16s threshold, Kro16s value);
+KroStatus kroiThreshold_GTVal_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3]);
+KroStatus kroiThreshold_GTVal_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3]);
+KroStatus kroiThreshold_GTVal_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[4], const Kro16s value[4]);
+KroStatus kroiThreshold_GTVal_16s_C4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[4], const Kro16s value[4]);
+KroStatus kroiThreshold_GTVal_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3]);
+KroStatus kroiThreshold_GTVal_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3]);
+KroStatus kroiThreshold_GTVal_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f threshold, Kro32f value);
+KroStatus kroiThreshold_GTVal_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, Kro32f threshold, Kro32f value);
+KroStatus kroiThreshold_GTVal_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3]);
+KroStatus kroiThreshold_GTVal_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3]);
+KroStatus kroiThreshold_GTVal_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[4], const Kro32f value[4]);
+KroStatus kroiThreshold_GTVal_32f_C4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[4], const Kro32f value[4]);
+KroStatus kroiThreshold_GTVal_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3]);
+KroStatus kroiThreshold_GTVal_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3]);
+KroStatus kroiThreshold_LTValGTVal_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro8u thresholdLT, Kro8u valueLT, Kro8u thresholdGT, Kro8u valueGT);
+KroStatus kroiThreshold_LTValGTVal_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro8u thresholdLT, Kro8u valueLT, Kro8u thresholdGT, Kro8u valueGT);
+KroStatus kroiThreshold_LTValGTVal_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u thresholdLT[3], const Kro8u valueLT[3], const Kro8u thresholdGT[3], const Kro8u valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u thresholdLT[3], const Kro8u valueLT[3], const Kro8u thresholdGT[3], const Kro8u valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u thresholdLT[3], const Kro8u valueLT[3], const Kro8u thresholdGT[3], const Kro8u valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u thresholdLT[3], const Kro8u valueLT[3], const Kro8u thresholdGT[3], const Kro8u valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro16u thresholdLT, Kro16u valueLT, Kro16u thresholdGT, Kro16u valueGT);
+KroStatus kroiThreshold_LTValGTVal_16u_C1IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16u thresholdLT, Kro16u valueLT, Kro16u thresholdGT, Kro16u valueGT);
+KroStatus kroiThreshold_LTValGTVal_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u thresholdLT[3], const Kro16u valueLT[3], const Kro16u thresholdGT[3], const Kro16u valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_16u_C3IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u thresholdLT[3], const Kro16u valueLT[3], const Kro16u thresholdGT[3], const Kro16u valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u thresholdLT[3], const Kro16u valueLT[3], const Kro16u thresholdGT[3], const Kro16u valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_16u_AC4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u thresholdLT[3], const Kro16u valueLT[3], const Kro16u thresholdGT[3], const Kro16u valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro16s thresholdLT, Kro16s valueLT, Kro16s thresholdGT, Kro16s valueGT);
+KroStatus kroiThreshold_LTValGTVal_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16s thresholdLT, Kro16s valueLT, Kro16s thresholdGT, Kro16s valueGT);
+KroStatus kroiThreshold_LTValGTVal_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s thresholdLT[3], const Kro16s valueLT[3], const Kro16s thresholdGT[3], const Kro16s valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s thresholdLT[3], const Kro16s valueLT[3], const Kro16s thresholdGT[3], const Kro16s valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s thresholdLT[3], const Kro16s valueLT[3], const Kro16s thresholdGT[3], const Kro16s valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s thresholdLT[3], const Kro16s valueLT[3], const Kro16s thresholdGT[3], const Kro16s valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f thresholdLT, Kro32f valueLT, Kro32f thresholdGT, Kro32f valueGT);
+KroStatus kroiThreshold_LTValGTVal_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, Kro32f thresholdLT, Kro32f valueLT, Kro32f thresholdGT, Kro32f valueGT);
+KroStatus kroiThreshold_LTValGTVal_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f thresholdLT[3], const Kro32f valueLT[3], const Kro32f thresholdGT[3], const Kro32f valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f thresholdLT[3], const Kro32f valueLT[3], const Kro32f thresholdGT[3], const Kro32f valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f thresholdLT[3], const Kro32f valueLT[3], const Kro32f thresholdGT[3], const Kro32f valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f thresholdLT[3], const Kro32f valueLT[3], const Kro32f thresholdGT[3], const Kro32f valueGT[3]);
+
+/* end of section THRESHOLD */
+
 #ifdef __cplusplus
 }
 #endif

@@ -1,0 +1,2 @@
+# Thresholds: the fixed forms of every type and layout against their rules, check orders.
+kroi_add_test(threshold_fixed_test tone/threshold_fixed_test.cpp)
