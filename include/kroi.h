@@ -2871,6 +2871,17 @@ KroStatus kroiThreshold_LTValGTVal_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, Kro
 KroStatus kroiThreshold_LTValGTVal_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f thresholdLT[3], const Kro32f valueLT[3], const Kro32f thresholdGT[3], const Kro32f valueGT[3]);
 KroStatus kroiThreshold_LTValGTVal_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f thresholdLT[3], const Kro32f valueLT[3], const Kro32f thresholdGT[3], const Kro32f valueGT[3]);
 
+/* kroiComputeThreshold_Otsu_8u_C1R: the threshold that maximises the between-class variance
+ * of the region's histogram, in double precision.  With h[i] the counts, N their sum,
+ * inv = 1/N, mT = inv * sum((i + 0.5) h[i]) (bin centres at i + 0.5), and for i = 0..255 in
+ * order p = inv h[i], w0 += p, w1 = 1 - w0: a bin is admitted only when
+ * min(w0, w1) >= 2^-23 and max(w0, w1) <= 1 - 2^-23; an admitted bin adds p (i + 0.5) to m
+ * and scores s = (w1 m - (mT - m) w0)^2 / (w1 w0).  The result is the first bin with the
+ * largest score (a strict improvement moves it), 0 when no bin is admitted (a constant
+ * image).  Checks: pSrc or pThreshold null -8; width or height below 1 -6; srcStep below the
+ * width -16. */
+KroStatus kroiComputeThreshold_Otsu_8u_C1R(const Kro8u* pSrc, int srcStep, KroiSize roiSize, Kro8u* pThreshold);
+
 /* end of section THRESHOLD */
 
 #ifdef __cplusplus

@@ -1,2 +1,5 @@
 # Thresholds: the fixed forms of every type and layout against their rules, check orders.
 kroi_add_test(threshold_fixed_test tone/threshold_fixed_test.cpp)
+
+# Otsu's threshold against a transcription of its sequence.
+kroi_add_test(threshold_otsu_test tone/threshold_otsu_test.cpp)
