@@ -2882,6 +2882,51 @@ KroStatus kroiThreshold_LTValGTVal_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, Kr
  * width -16. */
 KroStatus kroiComputeThreshold_Otsu_8u_C1R(const Kro8u* pSrc, int srcStep, KroiSize roiSize, Kro8u* pThreshold);
 
+/* Adaptive thresholds of 8u C1 images: dst = valGT where src > (local mean - delta), valLE
+ * otherwise.  The local mean is over the square mask centred on the pixel (box), or weighted
+ * by the separable Gaussian coefficients of a specification (Gauss); pixels outside the
+ * region come from the border: kroBorderReplicate or kroBorderConstant (borderValue), each
+ * with any in-memory flags, or kroBorderInMem (0xF0) exactly; the mirror is refused.
+ *   Box: with A = mask area and S the integer window sum, valGT where
+ *     A * src > S - ceil(A * delta), the product A * delta in single precision (truncated
+ *     toward zero, plus 1 when positive and not whole); exact for every mask.
+ *   Gauss: the weighted mean in single precision, a vertical pass (k = -r..r in order) then a
+ *     horizontal one over the vertical results, compared as float(src) > mean - delta.
+ *   delta > 255 gives valGT everywhere, delta <= -255 or NaN valLE everywhere, without
+ *   reading the source.
+ * The R forms with pSrc == pDst and equal steps are the IR forms (their checks and result).
+ * IR forms keep the rows still needed in the work buffer.  Steps are not checked (negative
+ * steps walk bottom-up images).
+ * Checks of the box: pointers (pSrc, pDst, pBuffer) -8; width or height < 1 -6; mask not
+ * square, below 1 or even kroStsBadMaskErr (-33); border code above 255, or (unless 0xF0)
+ * a low nibble other than 1 or 6, kroStsBadBorderErr (-225).  The Gauss form: pointers
+ * (pSrc, pDst, pSpec, pBuffer) -8; size -6; border -225; then a block that is not a
+ * specification made by kroiThresholdAdaptiveGaussInit kroStsWrongTagErr (-13).  Its mask
+ * size is the specification's.
+ * kroiThresholdAdaptiveBoxGetBufferSize: pBufferSize null -8; size -6; mask -33; dataType not
+ * kro8u -59; numChannels not 1 -53.  With m the mask width, r = m / 2, products modulo 2^32,
+ * and R32(x) = x rounded down to a multiple of 32:
+ *   base = R32(R32(w + m + 30) m + R32(4w + 31) (m + 1) + 8m + 31);
+ *   m <= w and m <= h: (ceil(r w / 32) + ceil(r h / 32)) 64 + R32((max(w, h) + 2r) 3r + 31) + base;
+ *   otherwise:         R32((m + w - 1)(m + h - 1) + 31) + base.
+ * kroiThresholdAdaptiveGaussGetBufferSize: pSpecSize null -8, then as the box query; the
+ * specification size is 4m + 40.
+ * kroiThresholdAdaptiveGaussInit: pSpec null -8; size -6; mask -33; type -59; channels -53.
+ * sigma <= 0 becomes ((m - 1) * 0.5 - 1) * 0.3 + 0.8; coefficient k (-r..r) is
+ * exp(-k^2 / (2 sigma^2)), all in single precision, then each is multiplied by 1 / (their sum).
+ * The block may be unaligned: its first byte holds the offset (1 to 8) to the structure at
+ * the next 8-byte boundary: tag 0x4B61738E, two words 1, the mask width, sigma, a pointer
+ * to the coefficients, then the coefficients.  A copied block keeps pointing at the
+ * original's coefficients. */
+typedef struct KroiThresholdAdaptiveGaussSpec KroiThresholdAdaptiveGaussSpec;
+KroStatus kroiThresholdAdaptiveBox_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, Kro32f delta, Kro8u valGT, Kro8u valLE, KroiBorderMode borderType, Kro8u borderValue, Kro8u* pBuffer);
+KroStatus kroiThresholdAdaptiveBox_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, KroiSize maskSize, Kro32f delta, Kro8u valGT, Kro8u valLE, KroiBorderMode borderType, Kro8u borderValue, Kro8u* pBuffer);
+KroStatus kroiThresholdAdaptiveBoxGetBufferSize(KroiSize roiSize, KroiSize maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiThresholdAdaptiveGaussGetBufferSize(KroiSize roiSize, KroiSize maskSize, KroDataType dataType, int numChannels, int* pSpecSize, int* pBufferSize);
+KroStatus kroiThresholdAdaptiveGaussInit(KroiSize roiSize, KroiSize maskSize, KroDataType dataType, int numChannels, KroiThresholdAdaptiveGaussSpec* pSpec, Kro32f sigma);
+KroStatus kroiThresholdAdaptiveGauss_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro32f delta, Kro8u valGT, Kro8u valLE, KroiBorderMode borderType, Kro8u borderValue, const KroiThresholdAdaptiveGaussSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiThresholdAdaptiveGauss_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro32f delta, Kro8u valGT, Kro8u valLE, KroiBorderMode borderType, Kro8u borderValue, const KroiThresholdAdaptiveGaussSpec* pSpec, Kro8u* pBuffer);
+
 /* end of section THRESHOLD */
 
 #ifdef __cplusplus

@@ -3,3 +3,6 @@ kroi_add_test(threshold_fixed_test tone/threshold_fixed_test.cpp)
 
 # Otsu's threshold against a transcription of its sequence.
 kroi_add_test(threshold_otsu_test tone/threshold_otsu_test.cpp)
+
+# Adaptive box and Gaussian thresholds against references with explicit border synthesis.
+kroi_add_test(threshold_adaptive_test tone/threshold_adaptive_test.cpp)
