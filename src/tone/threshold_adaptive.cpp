@@ -86,6 +86,8 @@ void walk(const Kro8u* src, std::ptrdiff_t ss, Kro8u* dst, std::ptrdiff_t ds, Kr
 }
 
 // Where the accumulator's arrays start: after the ring, on 16 bytes.
+inline __m128i load16(const void* p) { return _mm_loadu_si128(static_cast<const __m128i*>(p)); }
+
 inline void* after(Kro8u* buffer, int m, int width)
 {
     const std::uintptr_t p = reinterpret_cast<std::uintptr_t>(buffer + std::ptrdiff_t(m) * (width + m - 1));
@@ -103,6 +105,26 @@ std::int64_t ceilAreaDelta(std::int64_t area, float delta)
     return t + (p > 0 && float(t) != p ? 1 : 0);
 }
 
+// col[x] += row[x] (kAdd) or -= row[x], n entries.
+template <bool kAdd>
+void accumulate(std::uint32_t* col, const Kro8u* row, std::ptrdiff_t n)
+{
+    const __m128i z = _mm_setzero_si128();
+    std::ptrdiff_t x = 0;
+    for (; x + 16 <= n; x += 16) {
+        const __m128i v = load16(row + x);
+        const __m128i lo = _mm_unpacklo_epi8(v, z), hi = _mm_unpackhi_epi8(v, z);
+        const __m128i q[4] = {_mm_unpacklo_epi16(lo, z), _mm_unpackhi_epi16(lo, z), _mm_unpacklo_epi16(hi, z),
+                              _mm_unpackhi_epi16(hi, z)};
+        for (int j = 0; j < 4; ++j) {
+            auto* c = reinterpret_cast<__m128i*>(col + x + 4 * j);
+            const __m128i a = _mm_loadu_si128(c);
+            _mm_storeu_si128(c, kAdd ? _mm_add_epi32(a, q[j]) : _mm_sub_epi32(a, q[j]));
+        }
+    }
+    for (; x < n; ++x) col[x] = kAdd ? col[x] + row[x] : col[x] - row[x];
+}
+
 struct BoxAcc {
     std::int64_t area, bias; // the pixel is above when area * source + bias > window sum
     Kro8u above, other;
@@ -111,29 +133,64 @@ struct BoxAcc {
 
     void start(const Kro8u* ring, std::ptrdiff_t wide)
     {
-        for (std::ptrdiff_t x = 0; x < wide; ++x) {
-            std::uint32_t s = 0;
-            for (int k = 0; k < m; ++k) s += ring[k * wide + x];
-            col[x] = s;
-        }
+        std::memset(col, 0, sizeof(std::uint32_t) * std::size_t(wide));
+        for (int k = 0; k < m; ++k) accumulate<true>(col, ring + k * wide, wide);
     }
-    void retire(const Kro8u* old)
+    void retire(const Kro8u* old) { accumulate<false>(col, old, std::ptrdiff_t(width) + m - 1); }
+    void admit(const Kro8u* fresh) { accumulate<true>(col, fresh, std::ptrdiff_t(width) + m - 1); }
+
+    // Pixels x.. of the row one by one, the window sum sliding along; 64 bits hold it for any
+    // mask.
+    void rowScalar(const Kro8u* s, Kro8u* d, int x) const
     {
-        for (int x = 0, n = width + m - 1; x < n; ++x) col[x] -= old[x];
-    }
-    void admit(const Kro8u* fresh)
-    {
-        for (int x = 0, n = width + m - 1; x < n; ++x) col[x] += fresh[x];
-    }
-    void row(const Kro8u*, int, const Kro8u* s, Kro8u* d) const
-    {
-        // The window sum slides along the row; 64 bits hold it for any mask.
         std::int64_t sum = 0;
-        for (int k = 0; k < m; ++k) sum += col[k];
-        for (int x = 0; x < width; ++x) {
+        for (int k = 0; k < m; ++k) sum += col[x + k];
+        for (; x < width; ++x) {
             d[x] = area * s[x] + bias > sum ? above : other;
             if (x + 1 < width) sum += std::int64_t(col[x + m]) - col[x];
         }
+    }
+
+    // Four pixels at a time while every quantity fits 32 bits (masks up to 2047: the sum and
+    // both sides of the comparison stay below 2^31).  The window sums of four neighbours move
+    // on by four with the differences D[i] = col[i + m] - col[i]: lane j gains D[x + j] ..
+    // D[x + j + 3], a suffix sum of this group of differences plus a prefix sum of the next.
+    void row(const Kro8u*, int, const Kro8u* s, Kro8u* d) const
+    {
+        if (m > 2047 || width < 9) return rowScalar(s, d, 0);
+        const auto* c = reinterpret_cast<const std::int32_t*>(col);
+        std::int32_t first[4] = {};
+        for (int j = 0; j < 4; ++j)
+            for (int k = 0; k < m; ++k) first[j] += c[j + k];
+        __m128i sum = _mm_loadu_si128(reinterpret_cast<const __m128i*>(first));
+        auto diff = [&](int x) {
+            return _mm_sub_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(c + x + m)),
+                                 _mm_loadu_si128(reinterpret_cast<const __m128i*>(c + x)));
+        };
+        const __m128i a = _mm_set1_epi32(std::int32_t(area)), b = _mm_set1_epi32(std::int32_t(bias));
+        const __m128i hi = _mm_set1_epi8(char(above)), lo = _mm_set1_epi8(char(other)), z = _mm_setzero_si128();
+        __m128i dv = diff(0);
+        int x = 0;
+        for (; x + 9 <= width; x += 4) {
+            int v;
+            std::memcpy(&v, s + x, 4);
+            const __m128i px = _mm_unpacklo_epi16(_mm_unpacklo_epi8(_mm_cvtsi32_si128(v), z), z);
+            const __m128i even = _mm_mul_epu32(px, a), odd = _mm_mul_epu32(_mm_srli_epi64(px, 32), a);
+            const __m128i prod = _mm_unpacklo_epi32(_mm_shuffle_epi32(even, 0x08), _mm_shuffle_epi32(odd, 0x08));
+            __m128i mask = _mm_cmpgt_epi32(_mm_add_epi32(prod, b), sum);
+            mask = _mm_packs_epi16(_mm_packs_epi32(mask, mask), mask);
+            const int out = _mm_cvtsi128_si32(_mm_or_si128(_mm_and_si128(mask, hi), _mm_andnot_si128(mask, lo)));
+            std::memcpy(d + x, &out, 4);
+            const __m128i next = diff(x + 4);
+            __m128i suffix = _mm_add_epi32(dv, _mm_srli_si128(dv, 4));
+            suffix = _mm_add_epi32(suffix, _mm_srli_si128(suffix, 8));
+            __m128i prefix = _mm_slli_si128(next, 4);
+            prefix = _mm_add_epi32(prefix, _mm_slli_si128(prefix, 4));
+            prefix = _mm_add_epi32(prefix, _mm_slli_si128(prefix, 8));
+            sum = _mm_add_epi32(sum, _mm_add_epi32(suffix, prefix));
+            dv = next;
+        }
+        rowScalar(s, d, x);
     }
 };
 
