@@ -211,35 +211,50 @@ struct GaussAcc {
     void row(const Kro8u* ring, int top, const Kro8u* s, Kro8u* d) const
     {
         const std::ptrdiff_t wide = std::ptrdiff_t(width) + m - 1;
+        const __m128i z = _mm_setzero_si128();
         std::ptrdiff_t x = 0;
-        for (; x + 4 <= wide; x += 4) {
-            __m128 a = _mm_setzero_ps();
-            for (int k = 0; k < m; ++k) {
-                const Kro8u* p = ring + ((top + k) % m) * wide + x;
-                int v;
-                std::memcpy(&v, p, 4);
-                const __m128i b = _mm_unpacklo_epi16(_mm_unpacklo_epi8(_mm_cvtsi32_si128(v), _mm_setzero_si128()),
-                                                     _mm_setzero_si128());
-                a = _mm_add_ps(a, _mm_mul_ps(_mm_set1_ps(g[k]), _mm_cvtepi32_ps(b)));
+        for (; x + 16 <= wide; x += 16) {
+            __m128 a0 = _mm_setzero_ps(), a1 = a0, a2 = a0, a3 = a0;
+            for (int k = 0, t = top; k < m; ++k, t = t + 1 == m ? 0 : t + 1) {
+                const __m128i v = load16(ring + t * wide + x);
+                const __m128i lo = _mm_unpacklo_epi8(v, z), hi = _mm_unpackhi_epi8(v, z);
+                const __m128 gk = _mm_set1_ps(g[k]);
+                a0 = _mm_add_ps(a0, _mm_mul_ps(gk, _mm_cvtepi32_ps(_mm_unpacklo_epi16(lo, z))));
+                a1 = _mm_add_ps(a1, _mm_mul_ps(gk, _mm_cvtepi32_ps(_mm_unpackhi_epi16(lo, z))));
+                a2 = _mm_add_ps(a2, _mm_mul_ps(gk, _mm_cvtepi32_ps(_mm_unpacklo_epi16(hi, z))));
+                a3 = _mm_add_ps(a3, _mm_mul_ps(gk, _mm_cvtepi32_ps(_mm_unpackhi_epi16(hi, z))));
             }
-            _mm_storeu_ps(col + x, a);
+            _mm_storeu_ps(col + x, a0), _mm_storeu_ps(col + x + 4, a1);
+            _mm_storeu_ps(col + x + 8, a2), _mm_storeu_ps(col + x + 12, a3);
         }
         for (; x < wide; ++x) {
             float a = 0;
             for (int k = 0; k < m; ++k) a = a + g[k] * float(ring[((top + k) % m) * wide + x]);
             col[x] = a;
         }
+        // Sixteen outputs per turn: four independent sums hide the latency of the additions.
+        const __m128 dv = _mm_set1_ps(delta);
+        const __m128i hi = _mm_set1_epi8(char(above)), lo = _mm_set1_epi8(char(other));
         int i = 0;
-        for (; i + 4 <= width; i += 4) {
-            __m128 a = _mm_setzero_ps();
-            for (int k = 0; k < m; ++k) a = _mm_add_ps(a, _mm_mul_ps(_mm_set1_ps(g[k]), _mm_loadu_ps(col + i + k)));
-            const __m128 limit = _mm_sub_ps(a, _mm_set1_ps(delta));
-            int v;
-            std::memcpy(&v, s + i, 4);
-            const __m128 sv = _mm_cvtepi32_ps(
-                _mm_unpacklo_epi16(_mm_unpacklo_epi8(_mm_cvtsi32_si128(v), _mm_setzero_si128()), _mm_setzero_si128()));
-            const int gt = _mm_movemask_ps(_mm_cmpgt_ps(sv, limit));
-            for (int j = 0; j < 4; ++j) d[i + j] = (gt >> j) & 1 ? above : other;
+        for (; i + 16 <= width; i += 16) {
+            __m128 a0 = _mm_setzero_ps(), a1 = a0, a2 = a0, a3 = a0;
+            for (int k = 0; k < m; ++k) {
+                const __m128 gk = _mm_set1_ps(g[k]);
+                a0 = _mm_add_ps(a0, _mm_mul_ps(gk, _mm_loadu_ps(col + i + k)));
+                a1 = _mm_add_ps(a1, _mm_mul_ps(gk, _mm_loadu_ps(col + i + k + 4)));
+                a2 = _mm_add_ps(a2, _mm_mul_ps(gk, _mm_loadu_ps(col + i + k + 8)));
+                a3 = _mm_add_ps(a3, _mm_mul_ps(gk, _mm_loadu_ps(col + i + k + 12)));
+            }
+            const __m128i v = load16(s + i);
+            const __m128i vl = _mm_unpacklo_epi8(v, z), vh = _mm_unpackhi_epi8(v, z);
+            auto gt = [&](__m128i px, __m128 mean) {
+                return _mm_castps_si128(_mm_cmpgt_ps(_mm_cvtepi32_ps(px), _mm_sub_ps(mean, dv)));
+            };
+            const __m128i m01 = _mm_packs_epi32(gt(_mm_unpacklo_epi16(vl, z), a0), gt(_mm_unpackhi_epi16(vl, z), a1));
+            const __m128i m23 = _mm_packs_epi32(gt(_mm_unpacklo_epi16(vh, z), a2), gt(_mm_unpackhi_epi16(vh, z), a3));
+            const __m128i mask = _mm_packs_epi16(m01, m23);
+            _mm_storeu_si128(reinterpret_cast<__m128i*>(d + i),
+                             _mm_or_si128(_mm_and_si128(mask, hi), _mm_andnot_si128(mask, lo)));
         }
         for (; i < width; ++i) {
             float a = 0;
