@@ -294,7 +294,9 @@ TYPED_TEST(Fixed, ChecksInOrderWriteNothing)
         const KroStatus first = m.family == Val ? kroStsUnsupportedModeErr : kroStsNullPointerErr;
         EXPECT_EQ(r(nullptr, dst.ptr(), {4, 3}, 0, 0, ok, bad), first) << what;
         EXPECT_EQ(m.ir(nullptr, 0, {0, 3}, ok, bad), first) << what;
-        if (m.channels > 1) EXPECT_EQ(r(src.ptr(), dst.ptr(), {4, 3}, st, st, null, kroCompareLess), kroStsNullPointerErr) << what;
+        if (m.channels > 1) {
+            EXPECT_EQ(r(src.ptr(), dst.ptr(), {4, 3}, st, st, null, kroCompareLess), kroStsNullPointerErr) << what;
+        }
         if (m.family != Val) {
             EXPECT_EQ(r(src.ptr(), dst.ptr(), {0, 3}, 0, 0, ok, bad), kroStsBadSizeErr) << what;
             EXPECT_EQ(r(src.ptr(), dst.ptr(), {4, -1}, 0, 0, ok, bad), kroStsBadSizeErr) << what;
