@@ -192,6 +192,15 @@ void row(const T* s, T* d, long n, const Params<T, Op::N>& p)
 template <class T, int C, int W, class Op>
 KroStatus image(const T* s, int ss, T* d, int ds, KroiSize roi, const T* const* values)
 {
+    // Pixels whose every channel has the same parameters (bit for bit, so that -0 and +0
+    // values stay apart) are one-channel rows of C times the width, which need no parameter
+    // rows; AC4 is excluded, its fourth channel must stay untouched.
+    if constexpr (C > 1 && C == W) {
+        bool same = roi.width <= INT32_MAX / C;
+        for (int j = 0; j < Op::N; ++j)
+            for (int c = 1; c < C; ++c) same = same && std::memcmp(&values[j][c], &values[j][0], sizeof(T)) == 0;
+        if (same) return image<T, 1, 1, Op>(s, ss, d, ds, {roi.width * C, roi.height}, values);
+    }
     Params<T, Op::N> p;
     p.template fill<C, W>(values);
     const auto S = rows::image(s, ss);

@@ -237,6 +237,10 @@ TYPED_TEST(Fixed, EveryMemberFollowsItsRule)
                     T k[4][4];
                     for (auto& a : k)
                         for (auto& e : a) e = draw();
+                    // Half the runs give every channel the same parameters, which lets
+                    // three-channel images run as one-channel rows.
+                    if (pl == 1)
+                        for (auto& a : k) a[1] = a[2] = a[3] = a[0];
                     if (m.family == Both)
                         for (int c = 0; c < 4; ++c)
                             if (k[2][c] < k[0][c]) std::swap(k[0][c], k[2][c]);
