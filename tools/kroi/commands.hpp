@@ -60,6 +60,9 @@ int runErode(const Args& args);  // minmax.cpp
 int runHist(const Args& args);    // momhist.cpp
 int runMoments(const Args& args); // momhist.cpp
 // end of section MOMHIST
+// section THRESHOLD
+int runThreshold(const Args& args); // threshold.cpp
+// end of section THRESHOLD
 
 // One line of library identification ("kroIP SSE3 (t3) 2026.0.0 (r0x00000001), Nov 2 2026").
 std::string libraryLine();

@@ -114,6 +114,13 @@ constexpr Command kCommands[] = {
     {"hist", "kroi hist IN.png OUT.png [--bins N]\n    per-channel histogram over N uniform bins (default 256) drawn as a bar chart", runHist},
     {"moments", "kroi moments IN.png\n    centroid, orientation and Hu invariants of each channel", runMoments},
     // end of section MOMHIST
+    // section THRESHOLD
+    {"threshold",
+     "kroi threshold IN.png OUT.png --lt T|--gt T|--otsu|--adaptive WxH --delta D [--gauss SIGMA]\n"
+     "    clamp to T from below or above, or 8-bit gray to black and white at Otsu's level or\n"
+     "    against the local (box or Gaussian) mean less D",
+     runThreshold},
+    // end of section THRESHOLD
     {"png-roundtrip", nullptr, runPngRoundtrip},
 };
 
