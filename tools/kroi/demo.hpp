@@ -143,6 +143,11 @@ Image opening8u(DemoContext& ctx);
 Image histogram8u(DemoContext& ctx); // demo_momhist.cpp
 Image moments8u(DemoContext& ctx);
 // end of section MOMHIST
+// section THRESHOLD
+Image thresholdGt8u(DemoContext& ctx); // demo_threshold.cpp
+Image thresholdOtsu8u(DemoContext& ctx);
+Image thresholdAdaptive8u(DemoContext& ctx);
+// end of section THRESHOLD
 
 // The built-in inputs (sample.cpp): deterministic, the same on every run.
 Image makeScene(int width, int height);  // 8-bit RGB scene

@@ -164,6 +164,11 @@ constexpr DemoEntry kEntries[] = {
     {"histogram-8u-c3", "kroiHistogram_8u_C3R(src, srcStep, {512, 384}, (Kro32u*[]){r, g, b}, spec, buffer)", histogram8u},
     {"moments-8u-c1", "kroiMoments64f_8u_C1R(luma, lumaStep, {512, 384}, &state)", moments8u},
     // end of section MOMHIST
+    // section THRESHOLD
+    {"threshold-gt-8u-c3", "kroiThreshold_GT_8u_C3R(src, srcStep, dst, dstStep, {512, 384}, (Kro8u[]){96, 160, 224})", thresholdGt8u},
+    {"threshold-otsu-uneven", "kroiComputeThreshold_Otsu_8u_C1R(page, pageStep, {512, 384}, &level)", thresholdOtsu8u},
+    {"threshold-adaptive-uneven", "kroiThresholdAdaptiveBox_8u_C1R(page, pageStep, dst, dstStep, {512, 384}, {31, 31}, 4, 255, 0, kroBorderReplicate, 0, buffer)", thresholdAdaptive8u},
+    // end of section THRESHOLD
 };
 
 } // namespace
