@@ -3549,6 +3549,275 @@ KroStatus kroiGradientVectorSobel_8u32f_C1R(const Kro8u* pSrc, int srcStep, Kro3
 KroStatus kroiGradientVectorSobel_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pMagnitude, int magnitudeStep, Kro32f* pAngle, int angleStep, KroiSize roiSize, int maskSize, KroiGradientNorm norm, KroiBorderMode borderType, const Kro32f* pBorderValue, Kro8u* pBuffer);
 
 /* end of section GRADIENT */
+/* section THRESHOLD */
+/* =======================================================================================
+ * Thresholds
+ *
+ * Fixed thresholds, per channel, with threshold T and value V of the element's channel (one
+ * value by value for C1, arrays of three for C3 and AC4, of four for C4):
+ *   kroiThreshold_LT, and kroiThreshold with kroCompareLess (0):    dst = src < T ? T : src
+ *   kroiThreshold_GT, and kroiThreshold with kroCompareGreater (4): dst = src > T ? T : src
+ *   kroiThreshold_LTVal, and kroiThreshold_Val with 0:              dst = src < T ? V : src
+ *   kroiThreshold_GTVal, and kroiThreshold_Val with 4:              dst = src > T ? V : src
+ *   kroiThreshold_LTValGTVal: dst = src < lower T ? lower V : src > upper T ? upper V : src
+ * Comparisons are strict: an element equal to its threshold is kept.  32f compares as IEEE
+ * does: a NaN element or a NaN threshold compares false, so the element is kept; -0 and +0
+ * are equal.  AC4 forms never read the fourth element of the parameters nor write the fourth
+ * channel of the destination.  IR forms work in place.  Results never depend on the cache
+ * size or on the rows being contiguous.
+ *
+ * Checks, in order; the first failure returns and nothing is written:
+ *   kroiThreshold:       any pointer (image or parameter array) null -8; width or height
+ *                        below 1 -6; a step below 1 -16; operation neither 0 nor 4 -14.
+ *   kroiThreshold_Val:   operation neither 0 nor 4 -14 (before any pointer, on purpose);
+ *                        then pointers -8, size -6, steps -16.
+ *   _LT, _GT, _LTVal, _GTVal: pointers -8, size -6, steps -16.
+ *   _LTValGTVal:         pointers -8, size -6, steps -16, then an upper threshold below its
+ *                        lower one in some channel kroStsThresholdOrderErr (-19); equal
+ *                        thresholds are accepted.
+ * ======================================================================================= */
+KroStatus kroiThreshold_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro8u threshold, KroCompareOp op);
+KroStatus kroiThreshold_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro8u threshold, KroCompareOp op);
+KroStatus kroiThreshold_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro16u threshold, KroCompareOp op);
+KroStatus kroiThreshold_16u_C1IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16u threshold, KroCompareOp op);
+KroStatus kroiThreshold_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_16u_C3IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_16u_AC4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro16s threshold, KroCompareOp op);
+KroStatus kroiThreshold_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16s threshold, KroCompareOp op);
+KroStatus kroiThreshold_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f threshold, KroCompareOp op);
+KroStatus kroiThreshold_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, Kro32f threshold, KroCompareOp op);
+KroStatus kroiThreshold_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3], KroCompareOp op);
+KroStatus kroiThreshold_LT_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro8u threshold);
+KroStatus kroiThreshold_LT_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro8u threshold);
+KroStatus kroiThreshold_LT_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3]);
+KroStatus kroiThreshold_LT_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3]);
+KroStatus kroiThreshold_LT_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3]);
+KroStatus kroiThreshold_LT_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3]);
+KroStatus kroiThreshold_LT_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro16u threshold);
+KroStatus kroiThreshold_LT_16u_C1IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16u threshold);
+KroStatus kroiThreshold_LT_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3]);
+KroStatus kroiThreshold_LT_16u_C3IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3]);
+KroStatus kroiThreshold_LT_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3]);
+KroStatus kroiThreshold_LT_16u_AC4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3]);
+KroStatus kroiThreshold_LT_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro16s threshold);
+KroStatus kroiThreshold_LT_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16s threshold);
+KroStatus kroiThreshold_LT_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3]);
+KroStatus kroiThreshold_LT_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3]);
+KroStatus kroiThreshold_LT_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3]);
+KroStatus kroiThreshold_LT_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3]);
+KroStatus kroiThreshold_LT_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f threshold);
+KroStatus kroiThreshold_LT_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, Kro32f threshold);
+KroStatus kroiThreshold_LT_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3]);
+KroStatus kroiThreshold_LT_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3]);
+KroStatus kroiThreshold_LT_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3]);
+KroStatus kroiThreshold_LT_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3]);
+KroStatus kroiThreshold_GT_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro8u threshold);
+KroStatus kroiThreshold_GT_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro8u threshold);
+KroStatus kroiThreshold_GT_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3]);
+KroStatus kroiThreshold_GT_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3]);
+KroStatus kroiThreshold_GT_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3]);
+KroStatus kroiThreshold_GT_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3]);
+KroStatus kroiThreshold_GT_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro16u threshold);
+KroStatus kroiThreshold_GT_16u_C1IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16u threshold);
+KroStatus kroiThreshold_GT_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3]);
+KroStatus kroiThreshold_GT_16u_C3IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3]);
+KroStatus kroiThreshold_GT_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3]);
+KroStatus kroiThreshold_GT_16u_AC4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3]);
+KroStatus kroiThreshold_GT_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro16s threshold);
+KroStatus kroiThreshold_GT_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16s threshold);
+KroStatus kroiThreshold_GT_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3]);
+KroStatus kroiThreshold_GT_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3]);
+KroStatus kroiThreshold_GT_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3]);
+KroStatus kroiThreshold_GT_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3]);
+KroStatus kroiThreshold_GT_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f threshold);
+KroStatus kroiThreshold_GT_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, Kro32f threshold);
+KroStatus kroiThreshold_GT_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3]);
+KroStatus kroiThreshold_GT_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3]);
+KroStatus kroiThreshold_GT_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3]);
+KroStatus kroiThreshold_GT_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3]);
+KroStatus kroiThreshold_Val_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro8u threshold, Kro8u value, KroCompareOp op);
+KroStatus kroiThreshold_Val_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro8u threshold, Kro8u value, KroCompareOp op);
+KroStatus kroiThreshold_Val_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro16u threshold, Kro16u value, KroCompareOp op);
+KroStatus kroiThreshold_Val_16u_C1IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16u threshold, Kro16u value, KroCompareOp op);
+KroStatus kroiThreshold_Val_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_16u_C3IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_16u_AC4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro16s threshold, Kro16s value, KroCompareOp op);
+KroStatus kroiThreshold_Val_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16s threshold, Kro16s value, KroCompareOp op);
+KroStatus kroiThreshold_Val_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f threshold, Kro32f value, KroCompareOp op);
+KroStatus kroiThreshold_Val_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, Kro32f threshold, Kro32f value, KroCompareOp op);
+KroStatus kroiThreshold_Val_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3], KroCompareOp op);
+KroStatus kroiThreshold_Val_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3], KroCompareOp op);
+KroStatus kroiThreshold_LTVal_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro8u threshold, Kro8u value);
+KroStatus kroiThreshold_LTVal_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro8u threshold, Kro8u value);
+KroStatus kroiThreshold_LTVal_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3]);
+KroStatus kroiThreshold_LTVal_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3]);
+KroStatus kroiThreshold_LTVal_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[4], const Kro8u value[4]);
+KroStatus kroiThreshold_LTVal_8u_C4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[4], const Kro8u value[4]);
+KroStatus kroiThreshold_LTVal_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3]);
+KroStatus kroiThreshold_LTVal_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3]);
+KroStatus kroiThreshold_LTVal_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro16u threshold, Kro16u value);
+KroStatus kroiThreshold_LTVal_16u_C1IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16u threshold, Kro16u value);
+KroStatus kroiThreshold_LTVal_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3]);
+KroStatus kroiThreshold_LTVal_16u_C3IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3]);
+KroStatus kroiThreshold_LTVal_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[4], const Kro16u value[4]);
+KroStatus kroiThreshold_LTVal_16u_C4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[4], const Kro16u value[4]);
+KroStatus kroiThreshold_LTVal_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3]);
+KroStatus kroiThreshold_LTVal_16u_AC4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3]);
+KroStatus kroiThreshold_LTVal_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro16s threshold, Kro16s value);
+KroStatus kroiThreshold_LTVal_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16s threshold, Kro16s value);
+KroStatus kroiThreshold_LTVal_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3]);
+KroStatus kroiThreshold_LTVal_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3]);
+KroStatus kroiThreshold_LTVal_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[4], const Kro16s value[4]);
+KroStatus kroiThreshold_LTVal_16s_C4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[4], const Kro16s value[4]);
+KroStatus kroiThreshold_LTVal_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3]);
+KroStatus kroiThreshold_LTVal_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3]);
+KroStatus kroiThreshold_LTVal_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f threshold, Kro32f value);
+KroStatus kroiThreshold_LTVal_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, Kro32f threshold, Kro32f value);
+KroStatus kroiThreshold_LTVal_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3]);
+KroStatus kroiThreshold_LTVal_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3]);
+KroStatus kroiThreshold_LTVal_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[4], const Kro32f value[4]);
+KroStatus kroiThreshold_LTVal_32f_C4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[4], const Kro32f value[4]);
+KroStatus kroiThreshold_LTVal_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3]);
+KroStatus kroiThreshold_LTVal_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3]);
+KroStatus kroiThreshold_GTVal_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro8u threshold, Kro8u value);
+KroStatus kroiThreshold_GTVal_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro8u threshold, Kro8u value);
+KroStatus kroiThreshold_GTVal_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3]);
+KroStatus kroiThreshold_GTVal_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3]);
+KroStatus kroiThreshold_GTVal_8u_C4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[4], const Kro8u value[4]);
+KroStatus kroiThreshold_GTVal_8u_C4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[4], const Kro8u value[4]);
+KroStatus kroiThreshold_GTVal_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3]);
+KroStatus kroiThreshold_GTVal_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u threshold[3], const Kro8u value[3]);
+KroStatus kroiThreshold_GTVal_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro16u threshold, Kro16u value);
+KroStatus kroiThreshold_GTVal_16u_C1IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16u threshold, Kro16u value);
+KroStatus kroiThreshold_GTVal_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3]);
+KroStatus kroiThreshold_GTVal_16u_C3IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3]);
+KroStatus kroiThreshold_GTVal_16u_C4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[4], const Kro16u value[4]);
+KroStatus kroiThreshold_GTVal_16u_C4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[4], const Kro16u value[4]);
+KroStatus kroiThreshold_GTVal_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3]);
+KroStatus kroiThreshold_GTVal_16u_AC4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u threshold[3], const Kro16u value[3]);
+KroStatus kroiThreshold_GTVal_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro16s threshold, Kro16s value);
+KroStatus kroiThreshold_GTVal_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16s threshold, Kro16s value);
+KroStatus kroiThreshold_GTVal_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3]);
+KroStatus kroiThreshold_GTVal_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3]);
+KroStatus kroiThreshold_GTVal_16s_C4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[4], const Kro16s value[4]);
+KroStatus kroiThreshold_GTVal_16s_C4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[4], const Kro16s value[4]);
+KroStatus kroiThreshold_GTVal_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3]);
+KroStatus kroiThreshold_GTVal_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s threshold[3], const Kro16s value[3]);
+KroStatus kroiThreshold_GTVal_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f threshold, Kro32f value);
+KroStatus kroiThreshold_GTVal_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, Kro32f threshold, Kro32f value);
+KroStatus kroiThreshold_GTVal_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3]);
+KroStatus kroiThreshold_GTVal_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3]);
+KroStatus kroiThreshold_GTVal_32f_C4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[4], const Kro32f value[4]);
+KroStatus kroiThreshold_GTVal_32f_C4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[4], const Kro32f value[4]);
+KroStatus kroiThreshold_GTVal_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3]);
+KroStatus kroiThreshold_GTVal_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f threshold[3], const Kro32f value[3]);
+KroStatus kroiThreshold_LTValGTVal_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro8u thresholdLT, Kro8u valueLT, Kro8u thresholdGT, Kro8u valueGT);
+KroStatus kroiThreshold_LTValGTVal_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro8u thresholdLT, Kro8u valueLT, Kro8u thresholdGT, Kro8u valueGT);
+KroStatus kroiThreshold_LTValGTVal_8u_C3R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u thresholdLT[3], const Kro8u valueLT[3], const Kro8u thresholdGT[3], const Kro8u valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_8u_C3IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u thresholdLT[3], const Kro8u valueLT[3], const Kro8u thresholdGT[3], const Kro8u valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_8u_AC4R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, const Kro8u thresholdLT[3], const Kro8u valueLT[3], const Kro8u thresholdGT[3], const Kro8u valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_8u_AC4IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro8u thresholdLT[3], const Kro8u valueLT[3], const Kro8u thresholdGT[3], const Kro8u valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_16u_C1R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, Kro16u thresholdLT, Kro16u valueLT, Kro16u thresholdGT, Kro16u valueGT);
+KroStatus kroiThreshold_LTValGTVal_16u_C1IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16u thresholdLT, Kro16u valueLT, Kro16u thresholdGT, Kro16u valueGT);
+KroStatus kroiThreshold_LTValGTVal_16u_C3R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u thresholdLT[3], const Kro16u valueLT[3], const Kro16u thresholdGT[3], const Kro16u valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_16u_C3IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u thresholdLT[3], const Kro16u valueLT[3], const Kro16u thresholdGT[3], const Kro16u valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_16u_AC4R(const Kro16u* pSrc, int srcStep, Kro16u* pDst, int dstStep, KroiSize roiSize, const Kro16u thresholdLT[3], const Kro16u valueLT[3], const Kro16u thresholdGT[3], const Kro16u valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_16u_AC4IR(Kro16u* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16u thresholdLT[3], const Kro16u valueLT[3], const Kro16u thresholdGT[3], const Kro16u valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_16s_C1R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, Kro16s thresholdLT, Kro16s valueLT, Kro16s thresholdGT, Kro16s valueGT);
+KroStatus kroiThreshold_LTValGTVal_16s_C1IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, Kro16s thresholdLT, Kro16s valueLT, Kro16s thresholdGT, Kro16s valueGT);
+KroStatus kroiThreshold_LTValGTVal_16s_C3R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s thresholdLT[3], const Kro16s valueLT[3], const Kro16s thresholdGT[3], const Kro16s valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_16s_C3IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s thresholdLT[3], const Kro16s valueLT[3], const Kro16s thresholdGT[3], const Kro16s valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_16s_AC4R(const Kro16s* pSrc, int srcStep, Kro16s* pDst, int dstStep, KroiSize roiSize, const Kro16s thresholdLT[3], const Kro16s valueLT[3], const Kro16s thresholdGT[3], const Kro16s valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_16s_AC4IR(Kro16s* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro16s thresholdLT[3], const Kro16s valueLT[3], const Kro16s thresholdGT[3], const Kro16s valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_32f_C1R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, Kro32f thresholdLT, Kro32f valueLT, Kro32f thresholdGT, Kro32f valueGT);
+KroStatus kroiThreshold_LTValGTVal_32f_C1IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, Kro32f thresholdLT, Kro32f valueLT, Kro32f thresholdGT, Kro32f valueGT);
+KroStatus kroiThreshold_LTValGTVal_32f_C3R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f thresholdLT[3], const Kro32f valueLT[3], const Kro32f thresholdGT[3], const Kro32f valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_32f_C3IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f thresholdLT[3], const Kro32f valueLT[3], const Kro32f thresholdGT[3], const Kro32f valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_32f_AC4R(const Kro32f* pSrc, int srcStep, Kro32f* pDst, int dstStep, KroiSize roiSize, const Kro32f thresholdLT[3], const Kro32f valueLT[3], const Kro32f thresholdGT[3], const Kro32f valueGT[3]);
+KroStatus kroiThreshold_LTValGTVal_32f_AC4IR(Kro32f* pSrcDst, int srcDstStep, KroiSize roiSize, const Kro32f thresholdLT[3], const Kro32f valueLT[3], const Kro32f thresholdGT[3], const Kro32f valueGT[3]);
+
+/* kroiComputeThreshold_Otsu_8u_C1R: the threshold that maximises the between-class variance
+ * of the region's histogram, in double precision.  With h[i] the counts, N their sum,
+ * inv = 1/N, mT = inv * sum((i + 0.5) h[i]) (bin centres at i + 0.5), and for i = 0..255 in
+ * order p = inv h[i], w0 += p, w1 = 1 - w0: a bin is admitted only when
+ * min(w0, w1) >= 2^-23 and max(w0, w1) <= 1 - 2^-23; an admitted bin adds p (i + 0.5) to m
+ * and scores s = (w1 m - (mT - m) w0)^2 / (w1 w0).  The result is the first bin with the
+ * largest score (a strict improvement moves it), 0 when no bin is admitted (a constant
+ * image).  Checks: pSrc or pThreshold null -8; width or height below 1 -6; srcStep below the
+ * width -16. */
+KroStatus kroiComputeThreshold_Otsu_8u_C1R(const Kro8u* pSrc, int srcStep, KroiSize roiSize, Kro8u* pThreshold);
+
+/* Adaptive thresholds of 8u C1 images: dst = valGT where src > (local mean - delta), valLE
+ * otherwise.  The local mean is over the square mask centred on the pixel (box), or weighted
+ * by the separable Gaussian coefficients of a specification (Gauss); pixels outside the
+ * region come from the border: kroBorderReplicate or kroBorderConstant (borderValue), each
+ * with any in-memory flags, or kroBorderInMem (0xF0) exactly; the mirror is refused.
+ *   Box: with A = mask area and S the integer window sum, valGT where
+ *     A * src > S - ceil(A * delta), the product A * delta in single precision (truncated
+ *     toward zero, plus 1 when positive and not whole); exact for every mask.
+ *   Gauss: the weighted mean in single precision, a vertical pass (k = -r..r in order) then a
+ *     horizontal one over the vertical results, compared as float(src) > mean - delta.
+ *   delta > 255 gives valGT everywhere, delta <= -255 or NaN valLE everywhere, without
+ *   reading the source.
+ * The R forms with pSrc == pDst and equal steps are the IR forms (their checks and result).
+ * IR forms keep the rows still needed in the work buffer.  Steps are not checked (negative
+ * steps walk bottom-up images).
+ * Checks of the box: pointers (pSrc, pDst, pBuffer) -8; width or height < 1 -6; mask not
+ * square, below 1 or even kroStsBadMaskErr (-33); border code above 255, or (unless 0xF0)
+ * a low nibble other than 1 or 6, kroStsBadBorderErr (-225).  The Gauss form: pointers
+ * (pSrc, pDst, pSpec, pBuffer) -8; size -6; border -225; then a block that is not a
+ * specification made by kroiThresholdAdaptiveGaussInit kroStsWrongTagErr (-13).  Its mask
+ * size is the specification's.
+ * kroiThresholdAdaptiveBoxGetBufferSize: pBufferSize null -8; size -6; mask -33; dataType not
+ * kro8u -59; numChannels not 1 -53.  With m the mask width, r = m / 2, products modulo 2^32,
+ * and R32(x) = x rounded down to a multiple of 32:
+ *   base = R32(R32(w + m + 30) m + R32(4w + 31) (m + 1) + 8m + 31);
+ *   m <= w and m <= h: (ceil(r w / 32) + ceil(r h / 32)) 64 + R32((max(w, h) + 2r) 3r + 31) + base;
+ *   otherwise:         R32((m + w - 1)(m + h - 1) + 31) + base.
+ * kroiThresholdAdaptiveGaussGetBufferSize: pSpecSize null -8, then as the box query; the
+ * specification size is 4m + 40.
+ * kroiThresholdAdaptiveGaussInit: pSpec null -8; size -6; mask -33; type -59; channels -53.
+ * sigma <= 0 becomes ((m - 1) * 0.5 - 1) * 0.3 + 0.8; coefficient k (-r..r) is
+ * exp(-k^2 / (2 sigma^2)), all in single precision, then each is multiplied by 1 / (their sum).
+ * The block may be unaligned: its first byte holds the offset (1 to 8) to the structure at
+ * the next 8-byte boundary: tag 0x4B61738E, two words 1, the mask width, sigma, a pointer
+ * to the coefficients, then the coefficients.  A copied block keeps pointing at the
+ * original's coefficients. */
+typedef struct KroiThresholdAdaptiveGaussSpec KroiThresholdAdaptiveGaussSpec;
+KroStatus kroiThresholdAdaptiveBox_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, KroiSize maskSize, Kro32f delta, Kro8u valGT, Kro8u valLE, KroiBorderMode borderType, Kro8u borderValue, Kro8u* pBuffer);
+KroStatus kroiThresholdAdaptiveBox_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, KroiSize maskSize, Kro32f delta, Kro8u valGT, Kro8u valLE, KroiBorderMode borderType, Kro8u borderValue, Kro8u* pBuffer);
+KroStatus kroiThresholdAdaptiveBoxGetBufferSize(KroiSize roiSize, KroiSize maskSize, KroDataType dataType, int numChannels, int* pBufferSize);
+KroStatus kroiThresholdAdaptiveGaussGetBufferSize(KroiSize roiSize, KroiSize maskSize, KroDataType dataType, int numChannels, int* pSpecSize, int* pBufferSize);
+KroStatus kroiThresholdAdaptiveGaussInit(KroiSize roiSize, KroiSize maskSize, KroDataType dataType, int numChannels, KroiThresholdAdaptiveGaussSpec* pSpec, Kro32f sigma);
+KroStatus kroiThresholdAdaptiveGauss_8u_C1R(const Kro8u* pSrc, int srcStep, Kro8u* pDst, int dstStep, KroiSize roiSize, Kro32f delta, Kro8u valGT, Kro8u valLE, KroiBorderMode borderType, Kro8u borderValue, const KroiThresholdAdaptiveGaussSpec* pSpec, Kro8u* pBuffer);
+KroStatus kroiThresholdAdaptiveGauss_8u_C1IR(Kro8u* pSrcDst, int srcDstStep, KroiSize roiSize, Kro32f delta, Kro8u valGT, Kro8u valLE, KroiBorderMode borderType, Kro8u borderValue, const KroiThresholdAdaptiveGaussSpec* pSpec, Kro8u* pBuffer);
+
+/* end of section THRESHOLD */
 
 #ifdef __cplusplus
 }

@@ -79,6 +79,9 @@ int runScharr(const Args& args);  // smooth.cpp
 int runLaplace(const Args& args); // smooth.cpp
 int runSharpen(const Args& args); // smooth.cpp
 // end of section SMOOTH
+// section THRESHOLD
+int runThreshold(const Args& args); // threshold.cpp
+// end of section THRESHOLD
 
 // One line of library identification ("kroIP SSE3 (t3) 2026.0.0 (r0x00000001), Nov 2 2026").
 std::string libraryLine();

@@ -163,6 +163,11 @@ Image gaussBlur(DemoContext& ctx);
 Image sobelEdges(DemoContext& ctx);
 Image sharpen8u(DemoContext& ctx);
 // end of section SMOOTH
+// section THRESHOLD
+Image thresholdGt8u(DemoContext& ctx); // demo_threshold.cpp
+Image thresholdOtsu8u(DemoContext& ctx);
+Image thresholdAdaptive8u(DemoContext& ctx);
+// end of section THRESHOLD
 
 // The built-in inputs (sample.cpp): deterministic, the same on every run.
 Image makeScene(int width, int height);  // 8-bit RGB scene

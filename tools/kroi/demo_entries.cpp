@@ -122,6 +122,11 @@ constexpr DemoEntry kEntries[] = {
     {"sobel-edges-8u", "kroiFilterSobelDxBorder_8u16s_C1R(gray, step, dx, dxStep, {512, 384}, 3, kroBorderReplicate, 0, buf); kroiFilterSobelDyBorder_8u16s_C1R(...)", sobelEdges},
     {"sharpen-8u-c3", "kroiFilterSharpenBorder_8u_C3R(src, step, dst, step, {512, 384}, kroBorderReplicate, 0, buf)", sharpen8u},
     // end of section SMOOTH
+    // section THRESHOLD
+    {"threshold-gt-8u-c3", "kroiThreshold_GT_8u_C3R(src, srcStep, dst, dstStep, {512, 384}, (Kro8u[]){96, 160, 224})", thresholdGt8u},
+    {"threshold-otsu-uneven", "kroiComputeThreshold_Otsu_8u_C1R(page, pageStep, {512, 384}, &level)", thresholdOtsu8u},
+    {"threshold-adaptive-uneven", "kroiThresholdAdaptiveBox_8u_C1R(page, pageStep, dst, dstStep, {512, 384}, {31, 31}, 4, 255, 0, kroBorderReplicate, 0, buffer)", thresholdAdaptive8u},
+    // end of section THRESHOLD
     // The allocator entry stays last: its time is an allocation, not a pass over pixels.
     {"alloc-8u-c4", "p = kroiMalloc_8u_C4(512, 384, &step); kroiFree(p)", rgba8u},
 };

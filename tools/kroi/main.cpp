@@ -145,6 +145,13 @@ constexpr Command kCommands[] = {
     {"laplace", "kroi laplace IN.png OUT.png [3|5] [--border ...]\n    Laplace response of 8-bit images, negative clipped to 0", runLaplace},
     {"sharpen", "kroi sharpen IN.png OUT.png [--border ...]\n    the image plus an eighth of its high-pass response (8-bit)", runSharpen},
     // end of section SMOOTH
+    // section THRESHOLD
+    {"threshold",
+     "kroi threshold IN.png OUT.png --lt T|--gt T|--otsu|--adaptive WxH --delta D [--gauss SIGMA]\n"
+     "    clamp to T from below or above, or 8-bit gray to black and white at Otsu's level or\n"
+     "    against the local (box or Gaussian) mean less D",
+     runThreshold},
+    // end of section THRESHOLD
     {"png-roundtrip", nullptr, runPngRoundtrip},
 };
 

@@ -1,0 +1,9 @@
+// The fixed thresholds of 32f images; the rules and row kernels are in threshold_fixed.hpp.
+#include "frame/bind.hpp"
+#include "tone/threshold_fixed.hpp"
+
+#define KROI_EXPORT KROI_BIND
+KROI_BIND_LIST {
+#include "tone/threshold_32f.exports.inc"
+}
+#undef KROI_EXPORT
